@@ -1,0 +1,25 @@
+# Installed files: library, headers, tool, CMake package (find_package(KZCommon), target
+# KZ::kzcommon) and pkg-config file.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS kzcommon EXPORT KZCommonTargets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(DIRECTORY include/kz DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+if(TARGET kzdic)
+  install(TARGETS kzdic RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+if(EXISTS ${PROJECT_SOURCE_DIR}/docs/kzdic.1)
+  install(FILES docs/kzdic.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endif()
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/KZCommon)
+install(EXPORT KZCommonTargets NAMESPACE KZ:: DESTINATION ${package_dir})
+configure_package_config_file(cmake/KZCommonConfig.cmake.in KZCommonConfig.cmake
+  INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(KZCommonConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/KZCommonConfig.cmake
+              ${PROJECT_BINARY_DIR}/KZCommonConfigVersion.cmake
+        DESTINATION ${package_dir})
+
+configure_file(cmake/kzcommon.pc.in kzcommon.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/kzcommon.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,3 @@
+#include "kz/object.h"
+
+ZCObject::~ZCObject() = default;
