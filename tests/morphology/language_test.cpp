@@ -1,0 +1,101 @@
+// Language codes and letter classes.
+#include "kz/language.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+#include "text/literal.h"
+
+namespace {
+
+using kz::operator""_1251;
+using kz::operator""_1252;
+
+TEST(LanguageCode, IsRecognisedByTheFirstTwoCharactersInAnyCase) {
+  const struct {
+    const char* text;
+    const char* language;  // null for none
+  } rows[] = {
+      {"RU", "RU"},    {"ruen", "RU"},   {"EN", "EN"},   {"enru", "EN"},  {"eNx", "EN"},
+      {"FR", "FR"},    {"DERU", "DE"},   {"deru", "DE"}, {"E", nullptr},  {"", nullptr},
+      {"XX", nullptr}, {"REN", nullptr}, {"R", nullptr}, {"ED", nullptr}, {nullptr, nullptr},
+  };
+  for (const auto& [text, language] : rows) {
+    const std::string wanted = language != nullptr ? language : "";
+    EXPECT_EQ(kz_locl_is_ru_language(text), wanted == "RU");
+    EXPECT_EQ(kz_locl_is_en_language(text), wanted == "EN");
+    EXPECT_EQ(kz_locl_is_fr_language(text), wanted == "FR");
+    EXPECT_EQ(kz_locl_is_de_language(text), wanted == "DE");
+    EXPECT_STREQ(kz_locl_language(text), language);
+  }
+}
+
+TEST(LanguageCode, OfAnIdentifierIsTheSameConstant) {
+  EXPECT_EQ(LanguageIdToStr(1049), kz_locl_language("ru"));
+  EXPECT_EQ(LanguageIdToStr(1033), kz_locl_language("en"));
+  EXPECT_EQ(LanguageIdToStr(1036), kz_locl_language("fr"));
+  EXPECT_EQ(LanguageIdToStr(1031), kz_locl_language("de"));
+  int known = 0;
+  for (int id = 0; id < 65536; ++id) known += LanguageIdToStr(static_cast<uint16_t>(id)) != nullptr;
+  EXPECT_EQ(known, 4);
+}
+
+TEST(InvertLanguages, SwapsTheHalvesOfWholeDirections) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"FRRU", "RUFR"}, {"enRU", "RUen"}, {"", ""}, {"E", "E"}, {"EN", "EN"}, {"ENR", "R"}};
+  for (const auto& [direction, inverted] : rows) {
+    std::string text = direction;
+    EXPECT_EQ(InvertLanguages(text.data()), text.data());
+    EXPECT_STREQ(text.c_str(), inverted);
+  }
+  EXPECT_EQ(InvertLanguages(nullptr), nullptr);
+}
+
+TEST(LetterClasses, HoldExactlyTheirLetters) {
+  const struct {
+    const char* name;
+    int16_t (*test)(int);
+    const char* (*all)();  // null where the interface has no such function
+    std::string_view letters;
+  } rows[] = {
+      {"ru vowel", IsRuVowel, GetRuVowel, U"йьаеиоуэюяы"_1251},
+      {"ru consonant", IsRuConsonant, GetRuConsonant, U"бвгджзклмнпрстфхцчшщъ"_1251},
+      {"ru voiced", IsRuVoicedConsonant, nullptr, U"збдгвщ"_1251},
+      {"ru voiceless", IsRuVoiceLessConsonant, nullptr, U"спткфш"_1251},
+      {"en vowel", IsEnVowel, GetEnVowel, "aeiouy"},
+      {"en consonant", IsEnConsonant, GetEnConsonant, "bcdfghjklmnpqrstvwxz"},
+      {"fr vowel", IsFrVowel, GetFrVowel, U"aeiouyhàâéêëîïôùû"_1252},
+      {"fr consonant", IsFrConsonant, GetFrConsonant, "bcdfghjklmnpqrstvwxz"},
+      {"de vowel", IsDeVowel, GetDeVowel, U"aeiouyäüö"_1252},
+      {"de consonant", IsDeConsonant, GetDeConsonant, "bcdfghjklmnpqrstvwxz"},
+  };
+  for (const auto& row : rows) {
+    if (row.all != nullptr) {
+      EXPECT_EQ(std::string_view(row.all()), row.letters) << row.name;
+    }
+    for (int c = 0; c < 256; ++c) {
+      const int wanted = row.letters.find(static_cast<char>(c)) != row.letters.npos ? c : 0;
+      EXPECT_EQ(row.test(c), wanted) << row.name << ' ' << c;
+      EXPECT_EQ(row.test(c - 256), wanted) << row.name << ' ' << c - 256;
+    }
+  }
+}
+
+TEST(VoicedAndVoiceless, ConsonantsArePartnersAndAllElseStays) {
+  const std::string_view voiceless = U"спткфш"_1251;
+  const std::string_view voiced = U"збдгвщ"_1251;
+  for (int c = 0; c < 256; ++c) {
+    const std::size_t in_voiced = voiced.find(static_cast<char>(c));
+    const std::size_t in_voiceless = voiceless.find(static_cast<char>(c));
+    const char to_voiceless =
+        in_voiced != voiced.npos ? voiceless[in_voiced] : static_cast<char>(c);
+    const char to_voiced =
+        in_voiceless != voiceless.npos ? voiced[in_voiceless] : static_cast<char>(c);
+    EXPECT_EQ(ToRuVoiceLessConsonant(c), static_cast<unsigned char>(to_voiceless)) << c;
+    EXPECT_EQ(ToRuVoicedConsonant(c - 256), static_cast<unsigned char>(to_voiced)) << c;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,53 @@
+// Telling Russian from Latin text by counting letters.
+#include <cstring>
+#include <string_view>
+
+#include "kz/special.h"
+#include "morphology/language.h"
+#include "text/char_classes.h"
+
+namespace kz {
+namespace {
+
+constexpr int undecided = -1;
+
+struct LetterCount {
+  int russian = 0;
+  int latin = 0;
+
+  void add(char c, CharClass latin_letters) {
+    if (is_in(c, char_class::ru_ansi_alpha)) {
+      ++russian;
+    } else if (is_in(c, latin_letters)) {
+      ++latin;
+    }
+  }
+};
+
+// Between English and Russian, or when nothing is known, only plain letters are Latin ones.
+CharClass latin_letters_of(const char* language) {
+  const bool is_plain = language == nullptr || std::strcmp(language, code::enru) == 0 ||
+                        std::strcmp(language, code::ruen) == 0;
+  return is_plain ? char_class::ascii_alpha : char_class::ansi_alpha;
+}
+
+}  // namespace
+}  // namespace kz
+
+int IsBufRuLanguage(const char* text, int16_t length, const char* language) {
+  if (text == nullptr) return kz::undecided;
+  const kz::CharClass latin_letters = kz::latin_letters_of(language);
+  kz::LetterCount count;
+  for (; length > 0 && *text != '\0'; --length, ++text) count.add(*text, latin_letters);
+  if (count.russian == count.latin) return kz::undecided;
+  return count.russian > count.latin ? count.russian : 0;
+}
+
+int IsWordRuLanguage(const char* word, const char* language) {
+  if (word == nullptr) return kz::undecided;
+  const kz::CharClass latin_letters = kz::latin_letters_of(language);
+  kz::LetterCount count;
+  for (; *word != '\0'; ++word) count.add(*word, latin_letters);
+  if (count.latin > 0 && count.latin >= count.russian) return 0;
+  return count.russian > 0 ? count.russian : kz::undecided;
+}
