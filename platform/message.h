@@ -1,0 +1,16 @@
+// Message boxes and beeps, by the host's handlers or plainly.
+#ifndef KZ_PLATFORM_MESSAGE_H
+#define KZ_PLATFORM_MESSAGE_H
+
+namespace kz::platform {
+
+// Shows a message and returns the identifier of the button pressed (1 for OK, the answer when the
+// host has set no handler). Texts are Windows-1251; a null text counts as empty.
+int message_box(const char* text, const char* caption, unsigned int type);
+
+// Makes the sound of the given kind; 0 is the plain beep.
+void beep(unsigned int type = 0);
+
+}  // namespace kz::platform
+
+#endif  // KZ_PLATFORM_MESSAGE_H
