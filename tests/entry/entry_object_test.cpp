@@ -1,0 +1,166 @@
+// Accessors of entries and the handle functions over them.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "kz/entry.h"
+#include "text/literal.h"
+
+using kz::operator""_1251;
+
+namespace {
+
+std::string synonym(const char* language, char kind, std::string_view body) {
+  CDicEntry entry(language, kind);
+  entry.Build("w", 'N', body.data(), nullptr);
+  const char* const result = entry.GetSynonym(0, 0, nullptr);
+  return result == nullptr ? "null" : result;
+}
+
+TEST(Entry, OpensWithHeadWordAndBodyAndJoinsThem) {
+  CDicEntry* const entry =
+      DicEntryOpen("table", 'N', U"1.стол/2.таблица;график"_1251.data(), nullptr, "ENRU", 'c');
+  char buffer[64] = "x";
+  EXPECT_STREQ(DicEntryGetInWord(entry, buffer), "table");
+  EXPECT_STREQ(buffer, "table");
+  EXPECT_STREQ(DicEntryGetSrcWord(entry, nullptr), "table");
+  EXPECT_EQ(DicEntryGetPart(entry, buffer), 'N');
+  EXPECT_STREQ(buffer, "N");
+  EXPECT_EQ(DicEntryGetMeaningsSize(entry), 2);
+  EXPECT_EQ(DicEntryGetSynonymsSize(entry, 1), 2);
+  EXPECT_STREQ(DicEntryGetMeaningTag(entry, 0, buffer), "1.");
+  EXPECT_STREQ(buffer, "1.");
+  EXPECT_EQ(DicEntryGetSynonym(entry, 1, 0, nullptr), U"таблица"_1251);
+  EXPECT_EQ(entry->GetFullEntry(nullptr), std::string());
+  DicEntryMerge(entry);
+  EXPECT_EQ(entry->GetFullEntry(buffer), U"table*N1.стол/2.таблица;график\\\\table"_1251);
+  EXPECT_EQ(buffer, U"table*N1.стол/2.таблица;график\\\\table"_1251);
+  DicEntryBuild(entry, "x*V1", 0, nullptr, nullptr);
+  EXPECT_EQ(DicEntryGetMeaningsSize(entry), 1) << "the meanings of the last build only";
+  DicEntryClose(entry);
+}
+
+TEST(Entry, AnswersOutOfRangeIndexesWithNothing) {
+  CDicEntry entry("ENRU");
+  entry.Build("w", 'N', "1.;", nullptr);
+  char buffer[16];
+  const std::int16_t out_of_range[] = {-1, 1, 32767, -32768};
+  for (const std::int16_t i : out_of_range) {
+    std::string(" x").copy(buffer, 3);
+    EXPECT_EQ(entry.GetMeaningTag(i, buffer), nullptr);
+    EXPECT_STREQ(buffer, "");
+    EXPECT_EQ(entry.GetMeaningDefinition(i, nullptr), nullptr);
+    EXPECT_EQ(entry.GetSynonymsSize(i), 0);
+    EXPECT_EQ(entry.GetSynonym(i, 0, nullptr), nullptr);
+  }
+  buffer[0] = 'x';
+  EXPECT_EQ(entry.GetSynonym(0, 2, buffer), nullptr);
+  EXPECT_STREQ(buffer, "");
+  buffer[0] = 'x';
+  EXPECT_EQ(entry.GetSynonym(0, 1, buffer), nullptr) << "an empty synonym";
+  EXPECT_STREQ(buffer, "");
+  EXPECT_EQ(entry.GetSynonymsSize(0), 2);
+}
+
+TEST(Entry, LeadsCrossReferencesToTheSourceLanguage) {
+  EXPECT_EQ(synonym("RUEN", 'C', U"=дом"_1251), U"See: дом"_1251);
+  EXPECT_EQ(synonym("RUEN", 'c', U"=дом"_1251), U"=дом"_1251);
+  EXPECT_EQ(synonym("RUEN", 'C', "=house"), "house");
+  EXPECT_EQ(synonym("ENRU", 'S', "=house"), "See: house");
+  EXPECT_EQ(synonym("ENRU", 'S', U"=дом"_1251), U"дом"_1251);
+  EXPECT_EQ(synonym("RU", 'S', "=house"), "house");
+  EXPECT_EQ(synonym("RUEN", 'C', "="), "=");
+}
+
+TEST(Entry, TakesDecorationsOffASynonym) {
+  struct Case {
+    std::string_view shown;
+    int flag;
+    std::string_view labels, text, references;
+  };
+  const Case cases[] = {
+      {U"a)слово 1,2"_1251, 0, "a)", U"слово"_1251, " 1,2"},
+      {U"a)б) [x[y]] слово"_1251, 0, U"a)б) [x[y]] "_1251, U"слово"_1251, ""},
+      {U"See: дом 3"_1251, 1, "", U"See: дом"_1251, " 3"},
+      {U"См.: дом"_1251, 1, "", U"См.: дом"_1251, ""},
+      {U"дом [x] y; з"_1251, 0, "", U"дом ; з"_1251, ""},
+      {U"дом;[x]"_1251, 0, "", U"дом;[x]"_1251, ""},
+      {U"дом [x"_1251, 0, "", U"дом"_1251, " "},
+      {"12, 3", 0, "", "", "12, 3"},
+      {"", 0, "", "", ""},
+  };
+  CDicEntry entry;
+  for (const Case& c : cases) {
+    char shown[64];
+    char labels[64];
+    char references[64];
+    *std::copy(c.shown.begin(), c.shown.end(), shown) = 0;
+    EXPECT_EQ(DicEntryGetSynonymValues(&entry, shown, labels, references), c.flag) << c.shown;
+    EXPECT_EQ(labels, c.labels);
+    EXPECT_EQ(shown, c.text);
+    EXPECT_EQ(references, c.references);
+  }
+  const ZCString shared(U"a)слово"_1251.data());
+  ZCString text = shared;
+  ZCString labels;
+  ZCString references;
+  entry.GetSynonymValues(text, labels, references);
+  EXPECT_STREQ(text, U"слово"_1251.data());
+  EXPECT_STREQ(shared, U"a)слово"_1251.data()) << "other holders of the text keep it";
+}
+
+TEST(Entry, MayBeBuiltFromItsOwnTexts) {
+  CDicEntry entry("ENRU");
+  entry.Build("table*N1.a/2.b\\ref\\\\Table", 0, nullptr, nullptr);
+  entry.Build(entry.GetEntry(nullptr) + 2, 'V', entry.GetInWord(nullptr),
+              entry.GetSrcWord(nullptr));
+  entry.Merge();
+  EXPECT_STREQ(entry.GetFullEntry(nullptr), "a/2.b*Vtable\\Table\\\\a/2.b");
+}
+
+TEST(Entry, PacksItsBodyForItsLanguage) {
+  CDicEntry* const entry =
+      DicEntryOpen("w", 'N', U" слово ; другое ( x )"_1251.data(), nullptr, "ENRUXX", 'c');
+  char buffer[64];
+  EXPECT_EQ(DicEntryPack(entry, buffer), buffer);
+  EXPECT_EQ(buffer, U"слово;другое(x)"_1251);
+  DicEntryClose(entry);
+}
+
+TEST(Entry, FullIndexOfAVeryLongBodyStaysIn16Bits) {
+  CDicEntry entry("ENRU", 'S');
+  entry.Build("w", 'N', std::string(70000, ';').c_str(), nullptr);
+  EXPECT_EQ(entry.GetSynonymsSize(0), 32767);
+  entry.Build("w", 'N', std::string(70000, '/').c_str(), nullptr);
+  EXPECT_EQ(entry.GetMeaningsSize(), 32767);
+}
+
+TEST(EntryHandle, NullDoesNothing) {
+  char buffer[8] = "x";
+  char labels[8] = "y";
+  char references[8] = "z";
+  DicEntryClose(nullptr);
+  DicEntryBuild(nullptr, "a", 0, nullptr, nullptr);
+  DicEntrySplit(nullptr);
+  DicEntryMerge(nullptr);
+  EXPECT_EQ(DicEntryGetPart(nullptr, buffer), 0);
+  for (auto* get : {DicEntryGetInWord, DicEntryGetSrcWord, DicEntryGetSrcRef, DicEntryGetAttr,
+                    DicEntryGetAttrView})
+    EXPECT_EQ(get(nullptr, buffer), nullptr);
+  EXPECT_EQ(DicEntryGetMeaningsSize(nullptr), 0);
+  EXPECT_EQ(DicEntryGetSynonymsSize(nullptr, 0), 0);
+  EXPECT_EQ(DicEntryGetMeaningTag(nullptr, 0, buffer), nullptr);
+  EXPECT_EQ(DicEntryGetMeaningDefinition(nullptr, 0, buffer), nullptr);
+  EXPECT_EQ(DicEntryGetSynonym(nullptr, 0, 0, buffer), nullptr);
+  EXPECT_EQ(DicEntryPack(nullptr, buffer), nullptr);
+  EXPECT_EQ(DicEntryGetSynonymValues(nullptr, buffer, labels, references), -1);
+  EXPECT_STREQ(buffer, "x");
+  EXPECT_STREQ(labels, "");
+  EXPECT_STREQ(references, "");
+  CDicEntry entry(nullptr, 'c');
+  labels[0] = 'y';
+  EXPECT_EQ(DicEntryGetSynonymValues(&entry, nullptr, labels, nullptr), -1);
+  EXPECT_STREQ(labels, "");
+}
+
+}  // namespace
