@@ -1,0 +1,287 @@
+// Copies, endings, numbers, messages and the title line against slow references.
+#include "kz/strutil.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+#include <random>
+#include <regex>
+#include <string>
+#include <vector>
+
+#include "kz/platform.h"
+#include "text/literal.h"
+
+namespace {
+
+using kz::operator""_1251;
+
+// What `call` writes to a buffer of `room` bytes that holds `initial`; nothing behind it may
+// change.
+template <class Call>
+std::string written(std::size_t room, const std::string& initial, Call call) {
+  std::string buffer(room + 8, '#');
+  std::copy_n(initial.c_str(), initial.size() + 1, buffer.begin());
+  call(buffer.data());
+  EXPECT_EQ(buffer.substr(room), "########");
+  return buffer.c_str();
+}
+
+// The same for a copying function; its result is the end of what it wrote.
+template <class Copy>
+std::string copied(std::size_t length, Copy copy) {
+  return written(length + 1, "", [&](char* to) {
+    const char* const end = copy(to);
+    EXPECT_EQ(end, to + std::strlen(to));
+  });
+}
+
+std::string replaced(const std::string& text, const char* pattern, const char* by) {
+  return std::regex_replace(text, std::regex(pattern), by);
+}
+
+// All texts of up to 6 characters of a small alphabet.
+std::vector<std::string> small_texts(const std::string& alphabet) {
+  std::vector<std::string> texts{""};
+  for (std::size_t i = 0; texts[i].size() < 6; ++i) {
+    for (const char c : alphabet) texts.push_back(texts[i] + c);
+  }
+  return texts;
+}
+
+TEST(Copies, NormaliseLineEndsAndBlanks) {
+  for (const std::string& text : small_texts("\r\na ")) {
+    const char* const source = text.c_str();
+    const auto expect = [&](const char* pattern, const char* by, auto copy) {
+      const std::string expected = replaced(text, pattern, by);
+      ASSERT_EQ(copied(expected.size(), [&](char* to) { return copy(to, source); }), expected);
+    };
+    expect("\r\n", "\n", strcpy_rn);
+    expect("\r\n", "\r", strcpy_rr);
+    expect("\r\n", " ", strcpydelcrlf);
+    expect("\\s+", " ", strcpyleft1);
+
+    std::string ends = replaced(text, "\r\n", "E");
+    ends = replaced(replaced(replaced(ends, "\r", ""), "\n", "E"), "E", "\r\n");
+    ASSERT_EQ(copied(ends.size(), [&](char* to) { return strcat_crn(to, source); }), ends);
+    ASSERT_EQ(written(ends.size() + 3, "x\r",
+                      [&](char* to) { EXPECT_EQ(strcatrn(to, source), to + 2 + ends.size()); }),
+              "x\r" + ends);
+  }
+}
+
+TEST(Copies, DropCharactersOfEveryCode) {
+  std::string all(255, ' ');
+  for (int c = 1; c < 256; ++c) all[static_cast<std::size_t>(c - 1)] = static_cast<char>(c);
+  for (int c = 1; c < 256; ++c) {
+    std::string expected = all;
+    std::erase(expected, static_cast<char>(c));
+    for (const int argument : {c, int{static_cast<signed char>(c)}, c + 256}) {
+      ASSERT_EQ(copied(254,
+                       [&](char* to) {
+                         return strcpydel(to, all.c_str(), static_cast<int16_t>(argument));
+                       }),
+                expected);
+    }
+    std::erase(expected, '\xFF');
+    const char set[] = {static_cast<char>(c), '\xFF', '\0'};
+    ASSERT_EQ(copied(expected.size(), [&](char* to) { return strcpydelm(to, all.c_str(), set); }),
+              expected);
+  }
+  const std::string spaces = all.substr(8, 5);
+  EXPECT_EQ(copied(1, [&](char* to) { return strcpyleft1(to, spaces.c_str()); }), " ");
+  EXPECT_EQ(copied(255, [&](char* to) { return strcpydelm(to, all.c_str(), nullptr); }), all);
+  EXPECT_EQ(copied(0, [&](char* to) { return strcpydel(to, nullptr, 'a'); }), "");
+}
+
+TEST(Copies, BoundedCopyAlwaysTerminates) {
+  for (const unsigned int count : {0U, 1U, 4U, 5U, 6U, ~0U}) {
+    const std::string expected = std::string("words").substr(0, count);
+    EXPECT_EQ(written(expected.size() + 1, "",
+                      [&](char* to) { EXPECT_EQ(strncpy0(to, "words", count), to); }),
+              expected);
+  }
+}
+
+TEST(InPlace, PrefixGoesInFrontUpTo515Characters) {
+  const auto prefixed = [](std::size_t prefix, std::size_t text) {
+    return written(prefix + text + 1, std::string(text, 't'),
+                   [&](char* to) { EXPECT_EQ(insfst(to, std::string(prefix, 'p').c_str()), to); });
+  };
+  for (const std::size_t prefix : {0, 1, 200, 515}) {
+    const std::size_t text = 515 - prefix;
+    EXPECT_EQ(prefixed(prefix, text), std::string(prefix, 'p') + std::string(text, 't'));
+    EXPECT_EQ(prefixed(prefix, text + 1), std::string(text + 1, 't'));
+  }
+  char word[20] = "word";
+  EXPECT_STREQ(insfst(word, word + 2), "rdword");
+}
+
+TEST(InPlace, TrimRightCutsAtTheFirstWhiteSpaceWithinTheLength) {
+  for (const std::string& text : small_texts("a \t")) {
+    ASSERT_EQ(written(text.size() + 1, text, [](char* t) { EXPECT_EQ(trimleft(t), t); }),
+              replaced(text, "^\\s+", ""));
+    for (int length = -2; length <= 8; ++length) {
+      const std::size_t within =
+          length == -1 ? text.size() : static_cast<std::size_t>(std::max(length, 0));
+      std::string expected = text + "####";
+      expected[text.size()] = '\0';
+      for (std::size_t i = 0; i < std::min(within, text.size()); ++i) {
+        if (expected[i] != 'a') expected[i] = '\0';
+      }
+      std::string buffer = text + "####";
+      buffer[text.size()] = '\0';
+      trimright(buffer.data(), static_cast<int16_t>(length));
+      ASSERT_EQ(buffer, expected) << length;
+    }
+  }
+}
+
+TEST(Endings, AreFoundAtTheGivenLength) {
+  const char* const tables = U"столами, столы"_1251.data();
+  EXPECT_EQ(isflex(tables, 7, U"ами"_1251.data()), 3);
+  EXPECT_EQ(isflex(tables, 7, U"АМИ"_1251.data()), 0);
+  EXPECT_EQ(isiflex(tables, 7, U"АМИ"_1251.data()), 0);
+  EXPECT_EQ(isflex(tables, 2, U"стол"_1251.data()), 0);
+  EXPECT_EQ(isflex(tables, 7, U"столами"_1251.data()), 7);
+  EXPECT_EQ(isflex(tables, -1, ""), 0);
+  EXPECT_EQ(isiflex("TABLE", 5, "ble"), 3);
+  EXPECT_EQ(isflex("TABLE", 5, "ble"), 0);
+  EXPECT_EQ(isiflex("`[@{", 4, "@[`{"), 0);
+}
+
+// Collects the messages that are shown while it lives.
+class Messages {
+ public:
+  Messages() { kz_platform_set_message_box(show, this); }
+  ~Messages() { kz_platform_set_message_box(nullptr, nullptr); }
+  std::vector<std::string> texts, captions;
+  unsigned int last_style = 0;
+
+ private:
+  static int show(const char* text, const char* caption, unsigned int style, void* context) {
+    auto* messages = static_cast<Messages*>(context);
+    messages->texts.emplace_back(text);
+    messages->captions.emplace_back(caption);
+    messages->last_style = style;
+    return 6;
+  }
+};
+
+TEST(Numbers, ReadAsScanfDoesAndReportEveryWrongDigit) {
+  const std::string alphabet = "0123456789aFxX$+- \tG";
+  std::mt19937 random(4);
+  for (int round = 0; round < 20000; ++round) {
+    std::string text(random() % 15, '0');
+    for (char& c : text) c = alphabet[random() % (round % 2 != 0 ? alphabet.size() : 10)];
+    if (round % 3 == 0) text.insert(text.begin(), '$');
+    const std::string taken = text.substr(0, 12);
+    const bool hex = taken.starts_with('$');
+    long long expected = 0;
+    if (hex) {
+      unsigned long long value = 0;
+      std::sscanf(taken.c_str() + 1, "%llx", &value);
+      expected = static_cast<long long>(value);
+    } else {
+      std::sscanf(taken.c_str(), "%lld", &expected);
+    }
+    std::vector<std::string> complaints;
+    const std::string digits = hex ? "0123456789abcdefABCDEF" : "0123456789";
+    for (const char c : taken.substr(hex ? 1 : 0)) {
+      if (c == ' ' || c == '\t') break;
+      if (digits.find(c) == std::string::npos) {
+        complaints.push_back(std::string("Error: Invalid ") + (hex ? "hexadecimal" : "decimal") +
+                             " digit " + c + ".");
+      }
+    }
+    Messages messages;
+    ASSERT_EQ(convert_number(text.c_str()), static_cast<int16_t>(expected)) << text;
+    ASSERT_EQ(messages.texts, complaints) << text;
+    ASSERT_EQ(convert_lnumber(text.c_str()), static_cast<int32_t>(expected)) << text;
+    ASSERT_EQ(messages.texts.size(), 2 * complaints.size()) << text;
+  }
+}
+
+TEST(Numbers, HexToByteNeedsTwoDigits) {
+  const std::string digits = "0123456789abcdef0123456789ABCDEF";
+  for (int a = 1; a < 256; ++a) {
+    for (int b = 0; b < 256; ++b) {
+      const char text[] = {static_cast<char>(a), static_cast<char>(b), '7', '\0'};
+      const std::size_t high = digits.find(text[0]), low = digits.find(text[1]);
+      const bool both = high != std::string::npos && low != std::string::npos;
+      ASSERT_EQ(hex_to_byte(text), both ? high % 16 * 16 + low % 16 : 0) << text;
+    }
+  }
+  EXPECT_EQ(hex_to_byte(""), 0);
+}
+
+TEST(Messages, AreShownWithTheTitleOfTheLanguage) {
+  Messages messages;
+  EXPECT_EQ(MsgBox("text", 0x24, 0), 6);
+  EXPECT_EQ(messages.last_style, 0x24U);
+  MsgBox(U"текст"_1251.data(), 0, 1049);
+  EXPECT_EQ(messages.texts, (std::vector<std::string>{"text", std::string(U"текст"_1251)}));
+  EXPECT_EQ(messages.captions,
+            (std::vector<std::string>{"Message", std::string(U"Сообщение"_1251)}));
+}
+
+std::string local_time_text() {
+  const std::time_t now = std::time(nullptr);
+  char text[30];
+  return {text, std::strftime(text, sizeof text, "%b %d %H:%M:%S %Y\n", std::localtime(&now))};
+}
+
+TEST(TitleLine, HoldsTheNamesAndTheTime) {
+  const struct {
+    const char *first, *second, *names;
+  } cases[] = {
+      {"c:\\work\\list.txt", "d:\\out\\x.y.dic", "LIST.TXT X.Y.DIC"},
+      {"verylongname.txt", nullptr, "VERYLONG.TXT"},
+      {"\\verylongname.txt", "/work/verylongname", "VERYLON.TXT VERYLON"},
+      {"c:table.dic", "noextension", ":TABLE.DIC NOEXTENS"},
+      {".profile", "\\.profile", ".PROFILE .PROFILE"},
+      {"", "b", " B"},
+      {nullptr, "", ""},
+      {"a.b\\c", "a.", "C A."},
+  };
+  for (const auto& [first, second, names] : cases) {
+    std::string before, line;
+    do {
+      before = local_time_text();
+      line = written(73, "", [&](char* to) { EXPECT_EQ(init_header(to, first, second), to + 72); });
+    } while (before != local_time_text());
+    EXPECT_EQ(line, names + std::string(72 - 21 - std::strlen(names), ' ') + before);
+  }
+}
+
+TEST(TitleLine, LongNamesNeitherLeaveTheLineNorCoverTheTime) {
+  const std::string path = "a." + std::string(100, 'x');
+  for (const char* second : {static_cast<const char*>(nullptr), path.c_str()}) {
+    const std::string line =
+        written(73, "", [&](char* to) { init_header(to, path.c_str(), second); });
+    EXPECT_EQ(line.substr(0, 51), "A." + std::string(49, 'X'));
+    EXPECT_TRUE(std::regex_match(line.substr(51),
+                                 std::regex("[A-Z][a-z]{2} \\d\\d \\d\\d:\\d\\d:\\d\\d \\d{4}\n")));
+  }
+}
+
+TEST(Memory, BlocksAreZeroedAndCopied) {
+  auto* block = static_cast<char*>(kz_misc_calloc(30, 7));
+  ASSERT_NE(block, nullptr);
+  EXPECT_EQ(std::count(block, block + 210, '\0'), 210);
+  kz_misc_free(block);
+  char* copy = kz_misc_strdup("text");
+  EXPECT_STREQ(copy, "text");
+  kz_misc_free(copy);
+  EXPECT_EQ(kz_misc_strdup(nullptr), nullptr);
+  kz_misc_free(nullptr);
+  kz_misc_free(kz_misc_malloc(1));
+  errno = ENOENT;
+  EXPECT_EQ(kz_misc_errno(), ENOENT);
+}
+
+}  // namespace
