@@ -1,0 +1,86 @@
+// Headers of closed dictionaries: reading and rewriting in place.
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+#include "dictionary/error.h"
+#include "dictionary/header_layout.h"
+#include "kz/file.h"
+
+namespace kz {
+namespace {
+
+constexpr unsigned kReadDenyingWrite = 0x8020;
+constexpr unsigned kUpdate = 0x8002;
+
+// Closes on leaving a scope without touching errno.
+class OpenFile : public ZCFile {
+ public:
+  using ZCFile::ZCFile;
+  ~OpenFile() override {
+    const KeepErrno keep;
+    Close();
+  }
+};
+
+// The current signature with its four zero bytes; older generations are not taken here.
+bool is_current(const std::uint8_t* bytes) {
+  std::array<char, layout::kSignatureSize> field{};
+  std::copy(kSignature.begin(), kSignature.end(), field.begin());
+  return std::memcmp(bytes, field.data(), field.size()) == 0;
+}
+
+// Copies a text into a field that is padded with zeros and need not be terminated.
+void fill_field(std::uint8_t* field, std::size_t size, const char* text) {
+  std::size_t i = 0;
+  for (; i < size && text[i] != 0; ++i) field[i] = static_cast<std::uint8_t>(text[i]);
+  std::fill(field + i, field + size, std::uint8_t{0});
+}
+
+std::uint16_t open_header(const char* path, std::uint8_t* bytes, std::int32_t* time) {
+  errno = 0;
+  set_error(DIC_OK);
+  OpenFile file;
+  if (path == nullptr || !file.Open(path, kReadDenyingWrite)) return set_error(DIC_ERR_FILE);
+  if (bytes == nullptr) return DIC_OK;
+
+  const std::uint32_t length = file.GetLength();
+  if (file.Read(bytes, kHeaderSize) != kHeaderSize) return set_error(DIC_ERR_FORMAT);
+  const Header header =
+      decode_header(std::span<const std::uint8_t, kHeaderSize>(bytes, kHeaderSize));
+  if (!sizes_fit(header, length) || !is_current(bytes)) return set_error(DIC_ERR_FORMAT);
+
+  if (time != nullptr) {
+    ZCFileStatus status;
+    *time = file.GetStatus(status) ? status.modification_time.GetTime() : header.time_stamp;
+  }
+  return DIC_OK;
+}
+
+}  // namespace
+}  // namespace kz
+
+extern "C" {
+
+std::uint16_t DicHeaderOpen(const char* path, DicHeader* header, std::int32_t* time) {
+  return kz::open_header(path, reinterpret_cast<std::uint8_t*>(header), time);
+}
+
+std::uint16_t DicHeaderSetProperties(const char* path, const char* title, const char* label,
+                                     std::uint16_t property, const char* password) {
+  namespace layout = kz::layout;
+  std::array<std::uint8_t, kz::kHeaderSize> bytes;
+  if (const std::uint16_t error = kz::open_header(path, bytes.data(), nullptr)) return error;
+  kz::OpenFile file;
+  if (!file.Open(path, kz::kUpdate)) return kz::set_error(DIC_ERR_FILE);
+
+  if (property != 0) bytes[layout::kProperty] = static_cast<std::uint8_t>(property);
+  if (title != nullptr) kz::fill_field(&bytes[layout::kTitle], layout::kTitleSize, title);
+  if (label != nullptr) kz::fill_field(&bytes[layout::kLabel], layout::kLabelSize, label);
+  DicPwSet(&bytes[layout::kPassword], password);
+  if (file.Write(bytes.data(), kz::kHeaderSize) != kz::kHeaderSize) kz::set_error(DIC_ERR_FILE);
+  return kz::last_error();
+}
+
+}  // extern "C"

@@ -1,0 +1,119 @@
+// A file of its own for one test, removed at its end.
+#ifndef KZ_TESTS_DICTIONARY_SCRATCH_FILE_H
+#define KZ_TESTS_DICTIONARY_SCRATCH_FILE_H
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace kz::test {
+
+using Bytes = std::vector<std::uint8_t>;
+
+class ScratchFile {
+ public:
+  ScratchFile() {
+    std::random_device random;
+    path_ = testing::TempDir() + "kz_" + std::to_string(random()) + std::to_string(random());
+  }
+  explicit ScratchFile(const Bytes& bytes) : ScratchFile() { write(bytes); }
+  ScratchFile(const ScratchFile&) = delete;
+  ScratchFile& operator=(const ScratchFile&) = delete;
+  ~ScratchFile() {
+    std::error_code ignored;
+    std::filesystem::remove(path_, ignored);
+  }
+
+  const char* path() const { return path_.c_str(); }
+
+  void write(const Bytes& bytes) const {
+    std::ofstream out(path_, std::ios::binary | std::ios::trunc);
+    out.write(reinterpret_cast<const char*>(bytes.data()),
+              static_cast<std::streamsize>(bytes.size()));
+  }
+
+  Bytes read() const {
+    std::ifstream in(path_, std::ios::binary);
+    return Bytes(std::istreambuf_iterator<char>(in), {});
+  }
+
+ private:
+  std::string path_;
+};
+
+inline void put_text(Bytes& bytes, std::size_t at, const std::string& text) {
+  std::copy(text.begin(), text.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
+}
+
+inline void put_number(Bytes& bytes, std::size_t at, std::size_t width, std::uint32_t value) {
+  for (std::size_t i = 0; i < width; ++i) {
+    bytes[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
+  }
+}
+
+// A header that passes every check of a file of 1,000 bytes, with a different value in each field.
+inline Bytes sample_header() {
+  Bytes bytes(154, 0);
+  put_text(bytes, 0, "KZ Dictionary 3.00 (C) 1997-1998 Corvane    ");
+  put_text(bytes, 48, "LABEL-12");
+  put_text(bytes, 56, "ENRU");
+  put_text(bytes, 61, "C");
+  put_text(bytes, 63, "A title");
+  bytes[103] = 0x51;
+  put_text(bytes, 104, "\x81\x82\x83");
+  bytes[112] = 0x52;
+  put_number(bytes, 113, 2, 0x0310);
+  put_number(bytes, 115, 2, 3);
+  put_number(bytes, 117, 2, 26);
+  put_number(bytes, 119, 4, 500);
+  put_number(bytes, 123, 4, 0x9A);
+  put_number(bytes, 127, 4, 1000);
+  put_number(bytes, 131, 4, 0x81020304);
+  put_number(bytes, 135, 4, 0xA1A2A3A4);
+  put_number(bytes, 139, 2, 0xB1B2);
+  bytes[141] = 3;
+  put_number(bytes, 142, 4, 0xC1C2C3C4);
+  put_number(bytes, 146, 4, 0x71727374);
+  put_number(bytes, 150, 4, 0xD1D2D3D4);
+  return bytes;
+}
+
+// A first-generation header in a buffer of the current size, for language letters "ER".
+inline Bytes first_generation_header() {
+  Bytes bytes(154, 0xEE);
+  put_text(bytes, 0, "QAN Dictionary (C) 1993-1995 Torva Ltd. ");
+  put_text(bytes, 40, "OLDLABEL");
+  put_text(bytes, 48, "ER");
+  put_text(bytes, 50, std::string("Old title") + std::string(31, '\0'));
+  bytes[98] = 0x61;
+  bytes[99] = 0x62;
+  put_number(bytes, 100, 2, 256);
+  put_number(bytes, 102, 2, 2);
+  put_number(bytes, 104, 2, 26);
+  put_number(bytes, 106, 4, 600);
+  put_number(bytes, 110, 4, 900);
+  put_number(bytes, 114, 4, 0x12345678);
+  put_number(bytes, 118, 4, 0x9ABCDEF0);
+  return bytes;
+}
+
+inline Bytes second_generation_header() {
+  Bytes bytes = sample_header();
+  put_text(bytes, 0, "KZ Dictionary 2.10 (C) 1993-1996 Torva Ltd. ");
+  return bytes;
+}
+
+inline Bytes padded(Bytes bytes, std::size_t size) {
+  bytes.resize(size, '\n');
+  return bytes;
+}
+
+}  // namespace kz::test
+
+#endif  // KZ_TESTS_DICTIONARY_SCRATCH_FILE_H
