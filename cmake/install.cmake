@@ -21,5 +21,8 @@ install(FILES ${PROJECT_BINARY_DIR}/KZCommonConfig.cmake
               ${PROJECT_BINARY_DIR}/KZCommonConfigVersion.cmake
         DESTINATION ${package_dir})
 
+# The file finds the tree from where it stands, so that an installed tree may be moved.
+file(RELATIVE_PATH pkgconfig_to_prefix
+     /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 configure_file(cmake/kzcommon.pc.in kzcommon.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kzcommon.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -18,6 +18,10 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_library(kz_options INTERFACE)
 target_compile_options(kz_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # These releases take the inlined copying of std::string for overlapping copies.
+  target_compile_options(kz_options INTERFACE -Wno-restrict)
+endif()
 # 32-bit inodes, sizes and times of the operating system's own records must not limit a 32-bit build.
 target_compile_definitions(kz_options INTERFACE _FILE_OFFSET_BITS=64 _TIME_BITS=64)
 

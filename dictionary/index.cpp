@@ -169,9 +169,9 @@ int CDicIndex::Init(std::int16_t access_mode, const char* language, const char* 
   table_size_ =
       static_cast<std::uint32_t>(entries * (depth == 5 ? kz::kRecordSize : kz::kCellSize));
   if (access_mode == 2 || access_mode == 4) {
-    block_cache_ = new (std::nothrow) char*[entries + 1]();
+    block_cache_ = new (std::nothrow) kz::Block*[entries + 1]();
     if (block_cache_ != nullptr) {
-      cache_size_ = static_cast<std::uint32_t>(entries * sizeof(char*));
+      cache_size_ = static_cast<std::uint32_t>(entries * sizeof(kz::Block*));
     } else {
       access_mode_ = 0;
     }

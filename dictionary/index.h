@@ -11,6 +11,8 @@
 
 namespace kz {
 
+class Block;
+
 // One record of a depth-5 index: the first five characters as a number, and the position of the
 // first headword that begins with them.
 struct KeyRecord {
@@ -60,11 +62,11 @@ class IndexCore {
   bool has_cache() const { return x_.block_cache_ != nullptr; }
 
   // The cached block of the found group, null when there is none or the group was widened.
-  char* cached_block() const;
+  Block* cached_block() const;
 
   // Keeps a block of the found group. The index owns it until Free; null (and the block is
   // released) when there is no cache or no memory. To be called after block_size.
-  char* put_block(std::unique_ptr<char[]> block);
+  Block* put_block(std::unique_ptr<Block> block);
 
   // Walks all groups in index order, leaving out those that point outside the record area: each
   // one in turn becomes the found one, and `visit(position, size)` is called.
@@ -100,7 +102,7 @@ class IndexCore {
   Slots slots() const { return {x_.slots_[0], x_.slots_[1], x_.slots_[2]}; }
   std::int32_t size_at(const Slots& slots, std::int32_t position) const;
   bool widened() const;
-  char** cache_cell() const;
+  Block** cache_cell() const;
 
   bool select_first();
   bool select_next();

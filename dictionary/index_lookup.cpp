@@ -158,19 +158,19 @@ std::int32_t IndexCore::size_at(const Slots& s, std::int32_t position) const {
   return distance(position, std::min(next.value_or(x_.index_offset_), x_.index_offset_));
 }
 
-char** IndexCore::cache_cell() const {
+Block** IndexCore::cache_cell() const {
   if (x_.block_cache_ == nullptr || x_.found_position_ < 0 || widened()) return nullptr;
   if (x_.depth_ == 5) return x_.block_cache_ + (x_.found_record_ - x_.key_records_);
   return x_.block_cache_ + IndexShape{x_.alphabet_size_, x_.depth_ == 3}.cell(slots());
 }
 
-char* IndexCore::cached_block() const {
-  char** cell = cache_cell();
+Block* IndexCore::cached_block() const {
+  Block** cell = cache_cell();
   return cell == nullptr ? nullptr : *cell;
 }
 
-char* IndexCore::put_block(std::unique_ptr<char[]> block) {
-  char** cell = cache_cell();
+Block* IndexCore::put_block(std::unique_ptr<Block> block) {
+  Block** cell = cache_cell();
   if (cell == nullptr) return nullptr;
   try {
     x_.state_->blocks.push_back(std::move(block));

@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+#include "dictionary/block.h"
+
 namespace kz {
 
 // The non-empty groups, by rank. A table has up to 83,248 cells, most of them empty in a real
@@ -42,9 +44,9 @@ class GroupOrder {
 
 // What an index keeps beside its documented fields.
 struct IndexState {
-  GroupOrder groups;                            // all groups
-  GroupOrder pair_heads;                        // depth 3: the heads of the letter pairs
-  std::vector<std::unique_ptr<char[]>> blocks;  // what the cells of the block cache point to
+  GroupOrder groups;                           // all groups
+  GroupOrder pair_heads;                       // depth 3: the heads of the letter pairs
+  std::vector<std::unique_ptr<Block>> blocks;  // what the cells of the block cache point to
 };
 
 }  // namespace kz

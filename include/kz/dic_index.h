@@ -109,6 +109,7 @@ KZ_API void PrintAllOffsets(CDic* dictionary, ZCFile* file);
 } /* extern "C" */
 
 namespace kz {
+class Block;
 class IndexCore;
 struct IndexState;
 struct KeyRecord;
@@ -158,7 +159,7 @@ class KZ_API CDicIndex {
   char access_letter_;
   uint16_t format_version_ = 0;
   int32_t* offset_table_ = nullptr;
-  char** block_cache_ = nullptr;
+  kz::Block** block_cache_ = nullptr;
   char language_[5] = {};
   char type_[2] = {};
   int16_t alphabet_size_ = 0;

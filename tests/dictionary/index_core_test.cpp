@@ -449,7 +449,7 @@ TEST(DamagedIndex, KeysThatPointOutsideAreNotFollowed) {
 
 // --- Block cache. ---
 
-std::unique_ptr<char[]> block() { return std::make_unique<char[]>(16); }
+std::unique_ptr<Block> block() { return std::make_unique<Block>(); }
 
 TEST(BlockCache, SharesABlockWithTheHeadsOfTheSameGroup) {
   std::vector<std::int32_t> cells(26 * 27 * 27, -1);
@@ -467,7 +467,7 @@ TEST(BlockCache, SharesABlockWithTheHeadsOfTheSameGroup) {
     return image.core.cached_block();
   };
   EXPECT_EQ(cached("abc"), nullptr);
-  char* abc = image.core.put_block(block());
+  Block* abc = image.core.put_block(block());
   ASSERT_NE(abc, nullptr);
   EXPECT_EQ(cached("abc"), abc);
   EXPECT_EQ(cached("ab"), abc);
@@ -475,7 +475,7 @@ TEST(BlockCache, SharesABlockWithTheHeadsOfTheSameGroup) {
   EXPECT_EQ(cached("abd"), nullptr);
 
   cached("baa");
-  char* baa = image.core.put_block(block());
+  Block* baa = image.core.put_block(block());
   EXPECT_EQ(cached("ba"), baa);
   EXPECT_EQ(cached("b"), baa);
 
@@ -496,7 +496,7 @@ TEST(BlockCache, HasOneCellPerKey) {
   put_number(bytes, 12, 4, 200);
   Image image(kRussian, 5, bytes, 2);
   image.core.word_block_size(U"б"_1251.data());
-  char* kept = image.core.put_block(block());
+  Block* kept = image.core.put_block(block());
   EXPECT_EQ(image.core.cached_block(), kept);
   image.core.word_block_size(U"а"_1251.data());
   EXPECT_EQ(image.core.cached_block(), nullptr);

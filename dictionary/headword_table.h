@@ -1,0 +1,60 @@
+// HeadwordTable: a hash from headwords to records, for exact searches.
+//
+// The blocks that are searched more than once enter their headwords here. A search that finds its
+// word in the table need not ask the index, nor read through a block.
+#ifndef KZ_DICTIONARY_HEADWORD_TABLE_H
+#define KZ_DICTIONARY_HEADWORD_TABLE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "dictionary/shared_reference.h"
+
+namespace kz {
+
+class Block;
+
+// A record in a block in memory.
+struct TabledRecord {
+  const Block* block = nullptr;
+  const char* text = nullptr;  // decoded, not terminated; it begins with the headword
+  std::int32_t next = 0;       // offset in the block behind the record
+  std::uint16_t length = 0;    // of the text, cut to what an entry takes
+  std::uint16_t word_length = 0;
+  SharedReference reference;
+};
+
+class HeadwordTable {
+ public:
+  // Longest headword that a search can ask for.
+  static constexpr std::size_t kWordMax = 77;
+
+  // `memory_max`: bytes that an array of the table may take.
+  explicit HeadwordTable(std::size_t memory_max) : memory_max_(memory_max) {}
+
+  // The record of a headword, null when the table does not know it.
+  const TabledRecord* find(std::string_view word) const;
+
+  // Enters a record unless its headword is there already. False when there is no room.
+  bool add(const TabledRecord& record);
+
+ private:
+  // A hash and the number of a record, counted from 1; 0 for an empty slot.
+  struct Slot {
+    std::uint32_t hash = 0;
+    std::uint32_t record = 0;
+  };
+
+  std::size_t slot_of(std::string_view word, std::uint32_t hash) const;
+  bool grow();
+
+  std::vector<Slot> slots_;  // a power of two of them, or none
+  std::vector<TabledRecord> records_;
+  std::size_t memory_max_;
+};
+
+}  // namespace kz
+
+#endif  // KZ_DICTIONARY_HEADWORD_TABLE_H

@@ -1,0 +1,27 @@
+// Bodies that are numbers.
+#include "dictionary/shared_reference.h"
+
+#include <charconv>
+#include <cstddef>
+
+#include "entry/split.h"
+
+namespace kz {
+
+SharedReference find_shared_reference(std::string_view entry, std::uint32_t shared_size) {
+  constexpr std::size_t kDigitsMax = 10;
+  const std::string_view body = split_entry(entry).body;
+  const std::string_view digits = body.substr(0, kDigitsMax);
+  std::uint64_t offset = 0;
+  const auto [end, error] =
+      std::from_chars(digits.data(), digits.data() + digits.size(), offset, 16);
+  if (error != std::errc()) return {};
+  const auto length = static_cast<std::size_t>(end - digits.data());
+  if (length < body.size() && body[length] != '\\') return {};
+  if (offset >= shared_size) return {};
+  return {static_cast<std::uint32_t>(offset),
+          static_cast<std::uint16_t>(body.data() - entry.data()),
+          static_cast<std::uint16_t>(body.size())};
+}
+
+}  // namespace kz

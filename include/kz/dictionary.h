@@ -1,0 +1,165 @@
+/* Dictionaries: open one, look words up in it, walk the words that follow.
+ *
+ * DicOpen gives a handle, DicFind looks a word up and returns its entry, DicFindNext the entries
+ * behind it, DicClose releases everything. Words and entries are in the dictionary's own code page
+ * (Windows-1251 for Russian, Windows-1252 for German and French). What went wrong is in the
+ * dictionary error variable (kz/dic_error.h).
+ *
+ *     CDic* dictionary = DicOpen("BASE.ENRU.DIC", 0);
+ *     const char* entry = DicFind(dictionary, "table", 0, 2);
+ *     if (entry) puts(entry);
+ *     DicClose(dictionary);
+ *
+ * A dictionary serves one thread at a time. */
+#ifndef KZ_DICTIONARY_H
+#define KZ_DICTIONARY_H
+
+#include "kz/export.h"
+#include "kz/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Room that a found entry can take, its terminating zero included. */
+enum { DIC_ENTRY_ROOM = 2050 };
+
+/* Open modes. 0 reads blocks as searches need them. 1 does not consult the index: a search reads
+ * from the block searched last (at first: from the first record) to the end of the records. 2 and 4
+ * keep a block cache, which LoadAllOffsets fills at once in mode 2 and searches fill as they go;
+ * both become 0 when there is no memory for the cache. 5 is for DicSetMode alone and reopens a
+ * dictionary in the mode that it has. 128 is a flag in the mode byte that no search looks at. */
+
+/* Opens the dictionary file at the path in an open mode. Returns its handle, to be given to
+ * DicClose, or null with the dictionary error variable set: 195 the file cannot be opened, 196 out
+ * of memory, 202 not a dictionary, or damaged. The file is kept open and closed to writers. */
+KZ_API CDic* DicOpen(const char* path, int16_t mode);
+
+/* Closes a dictionary and releases everything that it owns, its entry texts and its entry object
+ * included. A null handle does nothing. */
+KZ_API void DicClose(CDic* dictionary);
+
+/* Looks a word up.
+ *
+ * search_mode: 0 the exact headword; 1 or 2 the first headword that begins with the word (2 also
+ * when the word is shorter than what the index distinguishes: the whole group is searched); -1 as
+ * 1, from the word's place to the end of the records. level: 0 finds the record without decoding it
+ * (the text of a packed record is empty then), 1 decodes it, 2 or more also resolves a reference
+ * to the dictionary's shared text.
+ *
+ * A null word finds the first record of the dictionary; an empty word, one longer than 77
+ * characters, or one whose beginning the index does not know (capitals, for instance) finds
+ * nothing. Returns the entry, zero-terminated, at most DIC_ENTRY_ROOM bytes (a longer one is cut);
+ * it lives in the dictionary until the next search or DicFindNext. Returns null when nothing was
+ * found; the error variable is then 0, or 195 when the file could not be read. */
+KZ_API const char* DicFind(CDic* dictionary, const char* word, int16_t search_mode, int16_t level);
+
+/* The record behind the one found last, decoded to the level; null at the end of the block that
+ * the search covered. Returns and errors as DicFind. */
+KZ_API const char* DicFindNext(CDic* dictionary, int16_t level);
+
+/* The entry found last, decoded to the level if that asks for more than has been decoded yet;
+ * level -1 decodes it anew and fully. Copied to the buffer (DIC_ENTRY_ROOM bytes) unless that is
+ * null. Returns the entry as DicFind does: an empty text when nothing was found, null for a null
+ * handle. */
+KZ_API const char* DicGetFound(CDic* dictionary, char* buffer, int16_t level);
+
+/* Looks up the word in the buffer at level 2 and puts its entry in its place; the buffer has room
+ * for DIC_ENTRY_ROOM bytes. Returns 0, or 204 (left in the error variable too) when nothing was
+ * found or the handle or the buffer is null. */
+KZ_API int16_t DicGetEntry(CDic* dictionary, char* buffer, int16_t search_mode);
+
+/* DicOpen in mode 0, DicGetEntry, DicClose. Returns 0, the code of the failed open, or 204. */
+KZ_API int16_t DicOpenGetEntry(const char* path, char* buffer, int16_t search_mode);
+
+/* The dictionary's own entry object, in the language of the dictionary; it belongs to the
+ * dictionary, which uses it to resolve shared text. Null for a null handle. */
+KZ_API CDicEntry* DicGetEntryHandler(CDic* dictionary);
+
+/* The path given to DicOpen, valid until the dictionary is closed; null for a null handle. */
+KZ_API const char* DicGetPath(CDic* dictionary);
+
+/* The id of a dictionary: a number that its holder gives it, 0 at first. DicGetId returns -1 for a
+ * null handle. */
+KZ_API void DicSetId(CDic* dictionary, uint8_t id);
+KZ_API int16_t DicGetId(CDic* dictionary);
+
+/* The mode byte; 0 for a null handle. */
+KZ_API int16_t DicGetMode(CDic* dictionary);
+
+/* In mode 2, loads every block into the block cache; else does nothing. A block that cannot be
+ * loaded is left to the searches. */
+KZ_API void LoadAllOffsets(CDic* dictionary);
+
+#ifdef __cplusplus
+}
+
+#include <memory>
+
+#include "kz/dic_index.h"
+#include "kz/file.h"
+#include "kz/string.h"
+
+namespace kz {
+struct SearchState;
+class Lookup;
+}  // namespace kz
+
+/* An open dictionary. Made by DicOpen and destroyed by DicClose; a default-constructed one is a
+ * closed dictionary. */
+class KZ_API CDic {
+ public:
+  CDic();
+  /* Takes down the path and the mode, without opening anything. */
+  CDic(const char* path, int16_t mode);
+  CDic(const CDic&) = delete;
+  CDic& operator=(const CDic&) = delete;
+  virtual ~CDic();
+
+ private:
+  friend class kz::Lookup;
+
+  uint16_t id_ = 0;
+  ZCString path_;
+  uint8_t mode_ = 0;
+  uint8_t property_ = 0;
+  uint16_t format_version_ = 0;
+  int32_t creation_time_ = 0;
+  int32_t modification_time_ = 0;
+  char language_[5] = {};
+  char type_[2] = {};
+  int16_t depth_ = 0;
+  int16_t alphabet_size_ = 0;
+  int32_t remaining_ = 0;
+  int32_t index_offset_ = 0;
+  uint32_t data_offset_ = 0;
+  ZCFile file_;
+  int32_t chunk_size_;
+  int32_t position_ = 0;
+  uint8_t packing_ = 0;
+  const char* record_start_ = nullptr;
+  const char* record_end_ = nullptr;
+  const char* cursor_ = nullptr;
+  char entry_[DIC_ENTRY_ROOM] = {};
+  char work_record_[260] = {};
+  int16_t entry_length_ = 0;
+  char* search_buffer_ = nullptr;
+  const char* current_block_ = nullptr;
+  char* shared_block_ = nullptr;
+  uint32_t shared_offset_ = 0;
+  uint32_t shared_size_ = 0;
+  CDicIndex index_;
+  char search_key_[84] = {};
+  int16_t search_mode_ = 0;
+  int16_t key_length_ = 0;
+  uint8_t in_memory_ = 0;
+  uint32_t reserved_ = 0;
+  uint16_t entry_limit_ = 0;
+  int16_t level_ = 1;
+  uint8_t password_[8] = {};
+  CDicEntry* entry_object_ = nullptr;
+  kz::SearchState* search_ = nullptr;
+};
+#endif
+
+#endif /* KZ_DICTIONARY_H */
