@@ -1,0 +1,14 @@
+// A C++ client of the installed library.
+#include <kz/array.h>
+#include <kz/string.h>
+
+#include <cstdio>
+
+int main() {
+  ZCStringArray words;
+  words.Add("house");
+  ZCString word = words.GetAt(0) + "s";
+  if (!(word == "houses")) return 1;
+  std::puts("the C++ client works");
+  return 0;
+}

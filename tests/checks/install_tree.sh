@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Installs the build into a fresh tree and builds clients on it: in C with pkg-config, in C++ with
+# find_package.
+set -eu
+build=$1
+clients=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+cmake --install "$build" --prefix "$work/tree" >"$work/install.log" || { cat "$work/install.log"; exit 1; }
+pc=$(find "$work/tree" -name kzcommon.pc)
+libdir=$(dirname "$(dirname "$pc")")
+
+export PKG_CONFIG_PATH=${pc%/*}
+cc -std=c11 -Wall -Wextra -Wpedantic -Werror "$clients/client.c" -o "$work/c_client" \
+  $(pkg-config --cflags --libs kzcommon) "-Wl,-rpath,$libdir"
+"$work/c_client"
+
+cmake -S "$clients" -B "$work/cpp" -DCMAKE_PREFIX_PATH="$work/tree" >"$work/configure.log" ||
+  { cat "$work/configure.log"; exit 1; }
+cmake --build "$work/cpp"
+"$work/cpp/client"
+
+if [ -x "$work/tree/bin/kzdic" ]; then
+  LD_LIBRARY_PATH=$libdir "$work/tree/bin/kzdic" --version
+fi
