@@ -1,0 +1,233 @@
+// Entry iterators: a walk over the records of one dictionary.
+#include "kz/dic_iterator.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <string_view>
+
+#include "dictionary/iterator_record.h"
+#include "dictionary/lookup.h"
+#include "kz/dic_index.h"
+#include "kz/dictionary.h"
+#include "kz/special.h"
+#include "text/literal.h"
+
+namespace kz {
+namespace {
+
+// The walk hands out whole records.
+constexpr std::int16_t kResolved = 2;
+
+enum State : std::int16_t { kClosed = 0, kOpened = 1, kReading = 2 };
+
+void copy_word(char (&field)[80], const char* word) {
+  const std::size_t length = word != nullptr ? strnlen(word, sizeof field - 1) : 0;
+  *std::copy_n(word, length, field) = 0;
+}
+
+}  // namespace
+
+// The private parts of an iterator. It has no state of its own.
+class EntryWalk {
+ public:
+  explicit EntryWalk(CDicEntryIterator& iterator) : it_(iterator) {}
+
+  bool open(CDic* dictionary, const char* path, const char* from, const char* to);
+  void set_filter(const char* filter, std::int16_t include) {
+    it_.filter_ = filter;
+    it_.include_ = include;
+  }
+  void close(bool borrowed);
+
+  CDic* dictionary() const { return it_.dictionary_; }
+  // The dictionary's language, for a dictionary that is there.
+  const char* language() const { return Lookup::language(*it_.dictionary_); }
+  std::int32_t counter() const { return it_.counter_; }
+
+  const char* first(const RecordOutputs& outputs, std::int16_t search_mode);
+  const char* next(const RecordOutputs& outputs);
+
+ private:
+  enum class Verdict { kEnd, kSkip, kKeep };
+
+  void set_range(const char* to);
+  char base_of(char letter) const {
+    return static_cast<char>(kz_codr_base_member(letter, language()));
+  }
+  void step() { it_.record_ = DicFindNext(it_.dictionary_, kResolved); }
+  void find_start();
+  const char* keep(const RecordOutputs& outputs);
+  Verdict examine(const RecordOutputs& outputs);
+  bool passes_filter(char code) const;
+
+  CDicEntryIterator& it_;
+};
+
+bool EntryWalk::open(CDic* dictionary, const char* path, const char* from, const char* to) {
+  const bool given = dictionary != nullptr;
+  if (!given) dictionary = DicOpen(path, 0);
+  if (dictionary == nullptr) return false;
+  copy_word(it_.from_, from);
+  copy_word(it_.to_, to);
+  if (it_.from_[0] != 0 && DicOffsetX(dictionary, it_.from_) == -1) {
+    if (!given) DicClose(dictionary);
+    return false;
+  }
+  it_.dictionary_ = it_.dictionary_copy_ = dictionary;
+  set_range(to);
+  it_.counter_ = 0;
+  it_.state_ = kOpened;
+  it_.record_ = DicFind(dictionary, nullptr, 0, kResolved);
+  return true;
+}
+
+// Without a to word the range is one letter; an empty one leaves its end open.
+void EntryWalk::set_range(const char* to) {
+  const bool russian = *language() == 'R';
+  const auto first_letter = russian ? static_cast<char>(U'а'_1251) : 'a';
+  const auto last_letter = russian ? static_cast<char>(U'я'_1251) : 'z';
+  it_.start_letter_ = it_.from_[0] != 0 ? it_.from_[0] : first_letter;
+  it_.end_letter_ = it_.start_letter_;
+  if (to != nullptr) it_.end_letter_ = it_.to_[0] != 0 ? it_.to_[0] : last_letter;
+  it_.start_base_ = base_of(it_.start_letter_);
+  it_.end_base_ = base_of(it_.end_letter_);
+}
+
+void EntryWalk::close(bool borrowed) {
+  if (it_.state_ != kClosed && !borrowed) DicClose(it_.dictionary_);
+  it_.dictionary_ = it_.dictionary_copy_ = nullptr;
+  it_.state_ = kClosed;
+  it_.record_ = nullptr;
+}
+
+const char* EntryWalk::first(const RecordOutputs& outputs, std::int16_t search_mode) {
+  if (it_.dictionary_copy_ == nullptr) return nullptr;
+  it_.counter_ = 0;
+  if (search_mode == 0) {
+    find_start();
+  } else {
+    const char* const asked = outputs.headword;
+    const char letter[] = {it_.start_letter_, 0};
+    const bool whole_letter = asked == nullptr || *asked == 0;
+    it_.record_ = DicFind(it_.dictionary_, whole_letter ? letter : asked, search_mode, kResolved);
+  }
+  return keep(outputs);
+}
+
+// Walks from the first record of the dictionary to the first one under the range's letter.
+void EntryWalk::find_start() {
+  it_.state_ = kReading;
+  it_.record_ = DicFind(it_.dictionary_, nullptr, 0, kResolved);
+  if (it_.start_letter_ == 'a' || it_.start_letter_ == static_cast<char>(U'а'_1251)) return;
+  while (it_.record_ != nullptr && base_of(*it_.record_) != it_.start_base_) step();
+}
+
+const char* EntryWalk::next(const RecordOutputs& outputs) {
+  if (it_.dictionary_copy_ == nullptr) return nullptr;
+  step();
+  return keep(outputs);
+}
+
+const char* EntryWalk::keep(const RecordOutputs& outputs) {
+  for (; it_.record_ != nullptr; step()) {
+    const Verdict verdict = examine(outputs);
+    if (verdict == Verdict::kKeep) return it_.record_;
+    if (verdict == Verdict::kEnd) break;
+  }
+  return nullptr;
+}
+
+EntryWalk::Verdict EntryWalk::examine(const RecordOutputs& outputs) {
+  const std::string_view record = Lookup::entry(*it_.dictionary_);
+  const auto byte = [](char c) { return static_cast<unsigned char>(c); };
+  if (record.empty() || byte(base_of(record[0])) > byte(it_.end_base_)) return Verdict::kEnd;
+  const RecordParts parts(record);
+  if (!passes_filter(parts.code)) return Verdict::kSkip;
+  parts.copy_to(outputs);
+  ++it_.counter_;
+  return Verdict::kKeep;
+}
+
+bool EntryWalk::passes_filter(char code) const {
+  const std::string_view filter(it_.filter_, static_cast<std::size_t>(it_.filter_.GetLength()));
+  if (filter.empty()) return true;
+  return (filter.find(code) != std::string_view::npos) == (it_.include_ != 0);
+}
+
+}  // namespace kz
+
+using kz::EntryWalk;
+
+CDicEntryIterator::CDicEntryIterator() = default;
+
+CDicEntryIterator::~CDicEntryIterator() { CloseIterator(-1); }
+
+CDicEntryIterator* CDicEntryIterator::OpenIterator(CDic* dictionary, const char* path,
+                                                   const char* from, const char* to,
+                                                   int16_t /*value*/, const char* filter,
+                                                   int16_t include) {
+  CloseIterator(-1);
+  EntryWalk walk(*this);
+  walk.set_filter(filter, include);
+  return walk.open(dictionary, path, from, to) ? this : nullptr;
+}
+
+void CDicEntryIterator::CloseIterator(intptr_t borrowed) {
+  EntryWalk(*this).close(borrowed != 0 && borrowed != -1);
+}
+
+const char* CDicEntryIterator::GetFirstEntry(char* headword, char* code, char* body, char* extra,
+                                             int16_t search_mode) {
+  return EntryWalk(*this).first({headword, code, body, extra}, search_mode);
+}
+
+const char* CDicEntryIterator::GetNextEntry(char* headword, char* code, char* body, char* extra) {
+  return EntryWalk(*this).next({headword, code, body, extra});
+}
+
+const char* CDicEntryIterator::GetLanguage(char* output) {
+  if (GetDicHandler() == nullptr) return nullptr;
+  const char* const language = EntryWalk(*this).language();
+  if (output != nullptr) std::strcpy(output, language);
+  return language;
+}
+
+int32_t CDicEntryIterator::GetCounter() { return EntryWalk(*this).counter(); }
+
+CDic* CDicEntryIterator::GetDicHandler() { return EntryWalk(*this).dictionary(); }
+
+CDicEntryIterator* DicIteratorOpen(CDic* dictionary, const char* path, const char* from,
+                                   const char* to, int16_t value, const char* filter,
+                                   int16_t include) {
+  std::unique_ptr<CDicEntryIterator> iterator(new (std::nothrow) CDicEntryIterator);
+  const bool open = iterator && iterator->OpenIterator(dictionary, path, from, to, value, filter,
+                                                       include) != nullptr;
+  return open ? iterator.release() : nullptr;
+}
+
+void DicIteratorClose(CDicEntryIterator* iterator) { delete iterator; }
+
+const char* DicIteratorGetFirstEntry(CDicEntryIterator* iterator, char* headword, char* code,
+                                     char* body, char* extra, int16_t search_mode) {
+  if (iterator == nullptr) return nullptr;
+  return iterator->GetFirstEntry(headword, code, body, extra, search_mode);
+}
+
+const char* DicIteratorGetNextEntry(CDicEntryIterator* iterator, char* headword, char* code,
+                                    char* body, char* extra) {
+  return iterator != nullptr ? iterator->GetNextEntry(headword, code, body, extra) : nullptr;
+}
+
+const char* DicIteratorGetLanguage(CDicEntryIterator* iterator, char* output) {
+  return iterator != nullptr ? iterator->GetLanguage(output) : nullptr;
+}
+
+int32_t DicIteratorGetCounter(CDicEntryIterator* iterator) {
+  return iterator != nullptr ? iterator->GetCounter() : 0;
+}
+
+CDic* DicIteratorGetDicHandler(CDicEntryIterator* iterator) {
+  return iterator != nullptr ? iterator->GetDicHandler() : nullptr;
+}
