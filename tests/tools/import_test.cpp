@@ -1,0 +1,186 @@
+// kzdic import, and the rules by which free text becomes entry bodies.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <zlib.h>
+
+#include <random>
+
+#include "tests/tools/kzdic_run.h"
+#include "tools/article.h"
+#include "tools/body_writer.h"
+#include "tools/code_page.h"
+#include "tools/dictd.h"
+#include "tools/entry_layout.h"
+#include "tools/entry_view.h"
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+std::string base64(std::size_t value) {
+  const char* digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+  std::string result(1, digits[value % 64]);
+  while ((value /= 64) > 0) result.insert(0, 1, digits[value % 64]);
+  return result;
+}
+
+struct Database {
+  void add(const std::string& headword, const std::string& article) {
+    index += headword + "\t" + base64(text.size()) + "\t" + base64(article.size()) + "\n";
+    text += article;
+  }
+  void write(const Workplace& place, bool compressed) const {
+    place.write("db.index", index);
+    if (!compressed) return place.write("db.dict", text);
+    gzFile file = gzopen(place.path("db.dict.dz").c_str(), "wb");
+    gzwrite(file, text.data(), static_cast<unsigned>(text.size()));
+    gzclose(file);
+  }
+  std::string index;
+  std::string text;
+};
+
+Database sample() {
+  Database database;
+  database.add("00-database-short", "A sample\n");
+  database.add("abandon",
+               "abandon\n   [ɜ↗bændɜn]\n   1. _v.\n      1) покидать,\n      оставлять\n"
+               "      2) отказываться; to abandon smth. (или it) бросать в 1945. году\n"
+               "   2. _n. _книж. развязность\n");
+  database.add("haus",
+               "Haus /haʊs/ <n, neut>\n1. дом, здание 2.\nein Gebäude\n 3.\nFamilie\n"
+               "2. палата\n");
+  database.add("-able", "-able\n   [eibl] _suff. -мый\n");
+  return database;
+}
+
+TEST(Import, WritesSourceThatBuildsAndFindsItsWords) {
+  for (const bool compressed : {false, true}) {
+    const Workplace place;
+    sample().write(place, compressed);
+    const Outcome imported =
+        place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt", "--language", "ENRU"});
+    ASSERT_EQ(imported.status, 0) << imported.err;
+    EXPECT_THAT(imported.err, HasSubstr("1 headwords left out: the index"));
+    EXPECT_THAT(place.read("s.txt"),
+                HasSubstr("\nabandon*V1.покидать, оставлять/2.отказываться;{to abandon smth.} (или "
+                          "{it}) бросать в {1945.} году\n"
+                          "abandon*Nкниж. развязность\n"
+                          "Haus*N[N|]1.{ein Gebaeude; Familie}дом;здание/2.палата\n"));
+    ASSERT_EQ(place.kzdic({"build", "s.txt", "-o", "o.dic"}).status, 0);
+    EXPECT_THAT(place.kzdic({"lookup", "o.dic", "abandon"}).out,
+                HasSubstr("2. отказываться; to abandon smth. (или it) бросать в 1945. году\n"));
+  }
+}
+
+TEST(Import, TellsTheLanguagesFromTheWords) {
+  const Workplace place;
+  sample().write(place, false);
+  ASSERT_EQ(place.kzdic({"import", "--from", "dictd", "db", "-o", "-"}).status, 0);
+  EXPECT_THAT(place.kzdic({"import", "--from", "dictd", "db", "-o", "-"}).out,
+              HasSubstr("*: language ENRU\n"));
+}
+
+TEST(Import, RefusesDamagedDatabases) {
+  const std::vector<std::pair<std::string, std::string>> damages = {
+      {"word\tA\n", "db.index:1:"},
+      {"one\tA\tB\nword\tA\t//\n", "db.index:2:"},
+      {"word\tA\t!\n", "db.index:1:"},
+      {"word\t////////////\tA\n", "db.index:1:"}};
+  for (const auto& [index, message] : damages) {
+    const Workplace place;
+    place.write("db.index", index);
+    place.write("db.dict", "text");
+    const Outcome outcome = place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt"});
+    EXPECT_EQ(outcome.status, 4) << outcome.err;
+    EXPECT_THAT(outcome.err, HasSubstr(message));
+    EXPECT_FALSE(place.exists("s.txt"));
+  }
+  const Workplace place;
+  EXPECT_EQ(place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt"}).status, 3);
+  sample().write(place, true);
+  const std::string bytes = place.read("db.dict.dz");
+  place.write("db.dict.dz", bytes.substr(0, bytes.size() - 12));
+  EXPECT_EQ(place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt"}).status, 4);
+  place.write("db.dict.dz", "ab\xFF\xFE not UTF-8");
+  place.write("db.index", "word\tA\tI\n");
+  const Outcome outcome =
+      place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt", "--language", "ENRU"});
+  EXPECT_EQ(outcome.status, 4);
+  EXPECT_THAT(outcome.err, HasSubstr("db.dict.dz: offset 2"));
+}
+
+TEST(Base64, ReadsDigitsMostSignificantFirst) {
+  EXPECT_EQ(kzdic::base64_number("A"), 0u);
+  EXPECT_EQ(kzdic::base64_number("BA"), 64u);
+  EXPECT_EQ(kzdic::base64_number("//"), 4095u);
+  EXPECT_FALSE(kzdic::base64_number(""));
+  EXPECT_FALSE(kzdic::base64_number("A="));
+}
+
+// Whatever text goes in, the entry parser has to see no code, no number and no reference in it.
+TEST(BodyWriter, HidesEveryMarkFromTheParser) {
+  const std::u32string characters = U"абвяё   ,,aWzN(){}[]/|#~&=\\*.:12—«»;'\"";
+  std::mt19937 random(5);
+  for (int round = 0; round < 20000; ++round) {
+    std::u32string text;
+    for (std::size_t i = random() % 40; i > 0; --i)
+      text += characters[random() % characters.size()];
+    kzdic::PlainEntry entry;
+    entry.headword = U"word";
+    entry.part = 'N';
+    entry.meanings = {{1, {}, {text}}, {2, {}, {U"слово", text}}};
+    kzdic::BodyWriter writer("ENRU");
+    for (const std::string& line : writer.lines(entry)) {
+      SCOPED_TRACE(line);
+      const std::string bytes = kzdic::encode_entry(kzdic::from_utf8(line), "ENRU");
+      const kzdic::EntryView view = kzdic::view_entry(bytes, "ENRU");
+      EXPECT_EQ(view.headword, "word");
+      EXPECT_EQ(view.reference, "");
+      EXPECT_EQ(view.attribute, "");
+      EXPECT_LE(view.meanings.size(), 2u);
+      for (const kzdic::MeaningView& meaning : view.meanings) {
+        EXPECT_EQ(meaning.part_of_speech, "");
+        EXPECT_TRUE(meaning.number == "1." || meaning.number == "2.") << meaning.number;
+      }
+      EXPECT_EQ(view.meanings.back().synonyms.front(), "слово");
+    }
+  }
+}
+
+TEST(BodyWriter, SpreadsLongEntriesOverRecordsAndKeepsEverySynonym) {
+  kzdic::PlainEntry entry;
+  entry.headword = U"long";
+  for (int i = 1; i <= 60; ++i) {
+    entry.meanings.push_back({i, {}, {std::u32string(90, U'а'), std::u32string(1, U'б')}});
+  }
+  entry.meanings.push_back({61, {}, std::vector<std::u32string>(300, U"синоним")});
+  kzdic::BodyWriter writer("ENRU");
+  std::size_t synonyms = 0;
+  for (const std::string& line : writer.lines(entry)) {
+    const std::string bytes = kzdic::encode_entry(kzdic::from_utf8(line), "ENRU");
+    EXPECT_LT(bytes.size(), 2049u);
+    for (const auto& meaning : kzdic::view_entry(bytes, "ENRU").meanings) {
+      synonyms += meaning.synonyms.size();
+    }
+  }
+  EXPECT_EQ(synonyms, 60u * 2 + 300);
+}
+
+TEST(Article, ReadsBothLayouts) {
+  const auto marked = kzdic::read_article(U"d’abord /d‿a.bɔʁ/ <adv>\nсначала (тут, там), прежде\n");
+  ASSERT_EQ(marked.size(), 1u);
+  EXPECT_EQ(marked[0].part, 'D');
+  EXPECT_THAT(marked[0].meanings[0].synonyms, ElementsAre(U"сначала (тут, там)", U"прежде"));
+
+  const auto labelled = kzdic::read_article(
+      U"decapod\n   [↗dɛkɜpɘd] _зоол.\n   1. _n. десятиногий рак\n   2. _a. северо-\n   восток\n");
+  ASSERT_EQ(labelled.size(), 2u);
+  EXPECT_EQ(labelled[0].part, 'N');
+  EXPECT_THAT(labelled[0].meanings[0].synonyms, ElementsAre(U"зоол. десятиногий рак"));
+  EXPECT_EQ(labelled[1].part, 'A');
+  EXPECT_THAT(labelled[1].meanings[0].synonyms, ElementsAre(U"зоол. северо-восток"));
+}
+
+}  // namespace

@@ -1,0 +1,230 @@
+// Build of a dictionary: read, check, sort, place, write, verify, rename.
+#include "tools/build_command.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <set>
+
+#include "tools/delivery.h"
+#include "tools/dictionary_writer.h"
+#include "tools/entry_layout.h"
+#include "tools/entry_reader.h"
+#include "tools/refusals.h"
+#include "tools/shared_text.h"
+#include "tools/sort_order.h"
+#include "tools/status.h"
+#include "tools/verify.h"
+
+namespace kzdic {
+namespace {
+
+// Blocks that a depth-2 index may leave on average before depth 3 is chosen: two reads of a search.
+constexpr std::size_t kBlockTarget = 4096;
+
+constexpr std::size_t kTitleMax = 40;
+constexpr std::size_t kLabelMax = 8;
+constexpr std::size_t kPasswordMax = 8;
+
+// The type letter that a file-name extension stands for, empty for other extensions.
+std::string type_of_extension(const std::string& path) {
+  std::string extension = std::filesystem::path(path).extension().string();
+  for (char& c : extension) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+  constexpr std::array<std::pair<std::string_view, const char*>, 5> kTypes = {
+      {{".dic", "C"}, {".dis", "S"}, {".dit", "T"}, {".dih", "H"}, {".dig", "G"}}};
+  for (const auto& [name, type] : kTypes) {
+    if (extension == name) return type;
+  }
+  return {};
+}
+
+Properties settle_properties(const BuildOptions& options, const Properties& directives) {
+  const auto stated = [](const std::string& option, const std::string& directive) {
+    return option.empty() ? directive : option;
+  };
+  Properties result;
+  result.language = stated(options.properties.language, directives.language);
+  result.type = stated(options.properties.type, directives.type);
+  result.title = stated(options.properties.title, directives.title);
+  result.label = stated(options.properties.label, directives.label);
+  if (result.language.empty()) {
+    throw Failure(Status::kUsage,
+                  "no language: use --language or a line '*: language ENRU' in the source");
+  }
+  if (!is_language(result.language)) {
+    throw Failure(Status::kUsage, "no such language: " + result.language +
+                                      " (EN, RU, DE, FR, ENRU, RUEN, DERU, RUDE, FRRU, RUFR)");
+  }
+  if (result.type.empty()) result.type = type_of_extension(options.output);
+  if (result.type.empty()) result.type.assign(1, result.language.size() == 4 ? 'C' : 'G');
+  if (result.type.size() != 1 || std::string_view("CSTHG").find(result.type) == std::string::npos) {
+    throw Failure(Status::kUsage, "no such type: " + result.type + " (C, S, T, H, G)");
+  }
+  return result;
+}
+
+std::string header_text(const std::string& name, const std::string& utf8,
+                        const std::string& language, std::size_t limit) {
+  const bool western = language == "DE" || language == "FR";
+  std::string text;
+  try {
+    text = encode(from_utf8(utf8), western ? CodePage::kWestern : CodePage::kRussian);
+  } catch (const Unmappable& error) {
+    throw Failure(Status::kCodePage, "the " + name + ": " + error.what());
+  } catch (const BadUtf8&) {
+    throw Failure(Status::kUsage, "the " + name + " is not UTF-8");
+  }
+  if (text.size() > limit) {
+    throw Failure(Status::kUsage, "the " + name + " is longer than " + std::to_string(limit) +
+                                      " characters: " + utf8);
+  }
+  return text;
+}
+
+std::vector<Record> read_records(const SourceText& source, const EntryReader& reader,
+                                 Refusals& refusals) {
+  std::vector<Record> records;
+  records.reserve(source.lines.size());
+  for (std::size_t i = 0; i < source.lines.size(); ++i) {
+    try {
+      records.push_back(reader.read(source.lines[i].text));
+      records.back().line = i;
+    } catch (const Failure& failure) {
+      refusals.add(failure.status(), source.place(source.lines[i], failure.what()));
+    }
+  }
+  return records;
+}
+
+int choose_depth(const std::vector<Record>& records, const std::string& language, bool skip_bad) {
+  const SortOrder two(language, 2);
+  const SortOrder three(language, 3);
+  std::set<std::uint32_t> groups;
+  std::size_t bytes = 0;
+  for (const Record& record : records) {
+    if (two.refusal(record.headword)) continue;
+    if (!skip_bad && three.refusal(record.headword)) return 2;
+    groups.insert(two.group(record.headword));
+    bytes += record.text.size() + 1;
+  }
+  return bytes > groups.size() * kBlockTarget ? 3 : 2;
+}
+
+// Drops the records for which `why` has a reason, and reports them.
+template <typename Why>
+void refuse_if(std::vector<Record>& records, const SourceText& source, Refusals& refusals,
+               Why why) {
+  std::erase_if(records, [&](const Record& record) {
+    const std::optional<std::string> reason = why(record);
+    if (reason) refusals.add(Status::kDamaged, source.place(source.lines[record.line], *reason));
+    return reason.has_value();
+  });
+}
+
+// Sorts the records; records with the same headword keep their source order. Entries that stand
+// there already are reported and dropped.
+void sort_records(std::vector<Record>& records, const SourceText& source) {
+  std::stable_sort(records.begin(), records.end(), [](const Record& a, const Record& b) {
+    return a.group != b.group ? a.group < b.group : a.headword < b.headword;
+  });
+  std::vector<Record> kept;
+  kept.reserve(records.size());
+  std::size_t same_from = 0;
+  for (Record& record : records) {
+    if (!kept.empty() && kept.back().headword != record.headword) same_from = kept.size();
+    const auto same =
+        std::find_if(kept.begin() + static_cast<std::ptrdiff_t>(same_from), kept.end(),
+                     [&](const Record& other) { return other.text == record.text; });
+    if (same == kept.end()) {
+      kept.push_back(std::move(record));
+      continue;
+    }
+    const SourceLine& first = source.lines[same->line];
+    std::cerr << "kzdic: "
+              << source.place(source.lines[record.line],
+                              "the same entry stands in " + source.place(first, "left out here"))
+              << '\n';
+  }
+  records = std::move(kept);
+}
+
+// A packed record takes over at most 63 characters. A search gives up at a record that takes over
+// fewer characters than have matched, so longer common beginnings cannot be told apart.
+void refuse_long_prefixes(std::vector<Record>& records, const SourceText& source,
+                          Refusals& refusals) {
+  std::string before;
+  refuse_if(records, source, refusals, [&](const Record& record) -> std::optional<std::string> {
+    const std::string& word = record.headword;
+    const auto common = std::mismatch(before.begin(), before.end(), word.begin(), word.end());
+    if (before != word &&
+        common.first - before.begin() > static_cast<std::ptrdiff_t>(kPackedPrefixMax)) {
+      return "the headword shares more than " + std::to_string(kPackedPrefixMax) +
+             " characters with the one before it, too many for packed records";
+    }
+    before = word;
+    return std::nullopt;
+  });
+}
+
+std::size_t count_headwords(const std::vector<Record>& records) {
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    count += i == 0 || records[i].headword != records[i - 1].headword ? 1 : 0;
+  }
+  return count;
+}
+
+}  // namespace
+
+void build(const BuildOptions& options) {
+  const SourceText source = read_source(options.sources);
+  const Properties properties = settle_properties(options, source.properties);
+  const std::string& language = properties.language;
+  const bool word_list = properties.type == "S";
+  const bool may_share = (options.shared || options.packed) && !options.no_shared && !word_list;
+  HeaderText header{language,
+                    properties.type,
+                    header_text("title", properties.title, language, kTitleMax),
+                    header_text("label", properties.label, language, kLabelMax),
+                    header_text("password", options.password, language, kPasswordMax),
+                    options.time_stamp};
+
+  Refusals refusals(options.skip_bad);
+  const EntryReader reader({language, word_list, options.packed, options.fold_yo});
+  std::vector<Record> records = read_records(source, reader, refusals);
+  const int depth =
+      options.depth != 0 ? options.depth : choose_depth(records, language, options.skip_bad);
+  const SortOrder order(language, depth);
+  refuse_if(records, source, refusals,
+            [&](const Record& record) { return order.refusal(record.headword); });
+  if (options.packed) {
+    refuse_if(records, source, refusals, [&](const Record& record) {
+      return packed_refusal(record.text, language, may_share);
+    });
+  }
+  for (Record& record : records) record.group = order.group(record.headword);
+  sort_records(records, source);
+  if (options.packed) refuse_long_prefixes(records, source, refusals);
+  refusals.check();
+  if (records.empty()) throw Failure(Status::kDamaged, "the source holds no entries");
+
+  const SharedText shared = place_bodies(records, options.packed, may_share);
+  Delivery output(options.output);
+  const Written written =
+      write_dictionary(output.path(), header, order, records, options.packed, shared.block);
+  verify_dictionary(output.path(), records);
+  output.deliver();
+
+  if (options.quiet) return;
+  std::cerr << options.output << ": " << count_headwords(records) << " headwords, "
+            << records.size() << " records in " << written.groups << " blocks at depth " << depth
+            << "; " << written.file_bytes << " bytes (records " << written.record_bytes
+            << ", index " << written.index_bytes << ", shared text " << shared.block.size() << "); "
+            << shared.moved << " records refer to " << shared.texts << " shared texts";
+  if (refusals.count() != 0) std::cerr << "; " << refusals.count() << " entries left out";
+  std::cerr << '\n';
+}
+
+}  // namespace kzdic

@@ -1,0 +1,145 @@
+// Printers of look-up answers.
+#include "tools/entry_printer.h"
+
+#include <iostream>
+#include <nlohmann/json.hpp>
+#include <string_view>
+
+#include "tools/code_page.h"
+#include "tools/entry_layout.h"
+#include "tools/entry_view.h"
+
+namespace kzdic {
+namespace {
+
+const char* step_name(Step step) {
+  switch (step) {
+    case Step::kTyped: return "as typed";
+    case Step::kLowerCase: return "in lower case";
+    case Step::kFolded: return "with е for ё";
+    case Step::kNone: break;
+  }
+  return "";
+}
+
+std::string join(const std::vector<std::string>& texts, std::string_view separator) {
+  std::string result;
+  for (const std::string& text : texts) {
+    if (!result.empty()) result += separator;
+    result += text;
+  }
+  return result;
+}
+
+// The readable form: one paragraph per entry.
+class TextPrinter : public Printer {
+ public:
+  explicit TextPrinter(std::ostream& out) : out_(out) {}
+
+  void print(const std::string& word, const std::vector<Found>& found, bool line) override {
+    for (const Found& answer : found) {
+      out_ << word << "  (" << answer.path << ", " << step_name(answer.step) << ")\n";
+      for (const std::string& entry : answer.entries) print_entry(entry, answer.language);
+    }
+    if (found.empty()) (line ? out_ : std::cerr) << word << ": not found\n";
+    if (line) out_ << '\n';
+  }
+
+ private:
+  void print_entry(const std::string& text, const std::string& language) {
+    const EntryView entry = view_entry(text, language);
+    out_ << "  " << entry.spelling;
+    if (!entry.part_code.empty()) {
+      out_ << ", " << (entry.part_of_speech.empty() ? entry.part_code : entry.part_of_speech);
+    }
+    if (!entry.attribute.empty()) out_ << " [" << entry.attribute << ']';
+    out_ << '\n';
+    for (const MeaningView& meaning : entry.meanings) print_meaning(meaning);
+    if (!entry.reference.empty()) out_ << "    (" << entry.reference << ")\n";
+  }
+
+  void print_meaning(const MeaningView& meaning) {
+    std::vector<std::string> pieces;
+    if (!meaning.number.empty()) pieces.push_back(meaning.number);
+    if (!meaning.part_of_speech.empty()) pieces.push_back(meaning.part_of_speech + ":");
+    if (!meaning.definition.empty()) pieces.push_back("{" + meaning.definition + "}");
+    std::vector<std::string> synonyms;
+    for (const std::string& synonym : meaning.synonyms) {
+      synonyms.push_back(synonym.size() > 1 && synonym[0] == '=' ? "see " + synonym.substr(1)
+                                                                 : synonym);
+    }
+    if (!synonyms.empty()) pieces.push_back(join(synonyms, "; "));
+    out_ << "    " << join(pieces, " ") << '\n';
+  }
+
+  std::ostream& out_;
+};
+
+// Entries as they stand, one per line.
+class RawPrinter : public Printer {
+ public:
+  explicit RawPrinter(std::ostream& out) : out_(out) {}
+
+  void print(const std::string& word, const std::vector<Found>& found, bool line) override {
+    for (const Found& answer : found) {
+      for (const std::string& entry : answer.entries) {
+        out_ << decode_entry(entry, answer.language) << '\n';
+      }
+    }
+    if (line) {
+      out_ << '\n';
+    } else if (found.empty()) {
+      std::cerr << word << ": not found\n";
+    }
+  }
+
+ private:
+  std::ostream& out_;
+};
+
+// One object per word.
+class JsonPrinter : public Printer {
+ public:
+  explicit JsonPrinter(std::ostream& out) : out_(out) {}
+
+  void print(const std::string& word, const std::vector<Found>& found, bool) override {
+    Json answer = {{"query", word}, {"found", !found.empty()}, {"entries", Json::array()}};
+    for (const Found& dictionary : found) {
+      for (const std::string& entry : dictionary.entries) {
+        answer["entries"].push_back(entry_object(entry, dictionary));
+      }
+    }
+    out_ << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+  }
+
+ private:
+  using Json = nlohmann::ordered_json;
+
+  static Json entry_object(const std::string& text, const Found& dictionary) {
+    const EntryView entry = view_entry(text, dictionary.language);
+    Json meanings = Json::array();
+    for (const MeaningView& meaning : entry.meanings) {
+      meanings.push_back({{"number", meaning.number},
+                          {"part_of_speech", meaning.part_of_speech},
+                          {"definition", meaning.definition},
+                          {"synonyms", meaning.synonyms}});
+    }
+    return {{"dictionary", dictionary.path}, {"step", step_name(dictionary.step)},
+            {"headword", entry.headword},    {"spelling", entry.spelling},
+            {"part_code", entry.part_code},  {"part_of_speech", entry.part_of_speech},
+            {"attribute", entry.attribute},  {"meanings", meanings},
+            {"reference", entry.reference},  {"entry", entry.text}};
+  }
+
+  std::ostream& out_;
+};
+
+}  // namespace
+
+std::unique_ptr<Printer> make_printer(bool raw, bool json, std::ostream& out) {
+  if (json) return std::make_unique<JsonPrinter>(out);
+  if (raw) return std::make_unique<RawPrinter>(out);
+  return std::make_unique<TextPrinter>(out);
+}
+
+}  // namespace kzdic

@@ -1,0 +1,35 @@
+// Output of look-ups: readable text, entries as they stand, or JSON lines.
+#ifndef KZ_TOOLS_ENTRY_PRINTER_H
+#define KZ_TOOLS_ENTRY_PRINTER_H
+
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tools/search.h"
+
+namespace kzdic {
+
+// What one dictionary answers.
+struct Found {
+  std::string path;
+  std::string language;
+  Step step = Step::kNone;
+  std::vector<std::string> entries;
+};
+
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  // The answer to one word; `found` is empty when no dictionary has it. A word that came from
+  // standard input (`line`) gets an answer that can be told from the next one: exactly one line of
+  // JSON, or lines of text that end with an empty line.
+  virtual void print(const std::string& word, const std::vector<Found>& found, bool line) = 0;
+};
+
+std::unique_ptr<Printer> make_printer(bool raw, bool json, std::ostream& out);
+
+}  // namespace kzdic
+
+#endif  // KZ_TOOLS_ENTRY_PRINTER_H

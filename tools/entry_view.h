@@ -1,0 +1,33 @@
+// An entry taken apart for people and programs: UTF-8, without the marks of the entry format.
+#ifndef KZ_TOOLS_ENTRY_VIEW_H
+#define KZ_TOOLS_ENTRY_VIEW_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kzdic {
+
+struct MeaningView {
+  std::string number;          // "1.", with the text of its label: "2. mus."
+  std::string part_of_speech;  // of a meaning that is another part of speech than the entry
+  std::string definition;
+  std::vector<std::string> synonyms;
+};
+
+struct EntryView {
+  std::string headword;
+  std::string spelling;  // as written: the source word, or the headword
+  std::string part_code;
+  std::string part_of_speech;  // a name for the part code, empty for one without a name
+  std::string attribute;
+  std::string reference;  // the source reference
+  std::vector<MeaningView> meanings;
+  std::string text;  // the entry as it stands
+};
+
+EntryView view_entry(const std::string& entry, const std::string& language);
+
+}  // namespace kzdic
+
+#endif  // KZ_TOOLS_ENTRY_VIEW_H

@@ -1,0 +1,217 @@
+// Import of dictd databases.
+#include "tools/import_command.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <optional>
+
+#include "tools/article.h"
+#include "tools/code_page.h"
+#include "tools/delivery.h"
+#include "tools/dictd.h"
+#include "tools/entry_layout.h"
+#include "tools/sort_order.h"
+#include "tools/status.h"
+
+namespace kzdic {
+namespace {
+
+// The strictest index that a build chooses by itself.
+constexpr int kStrictDepth = 3;
+
+bool is_cyrillic(char32_t c) { return c >= 0x400 && c < 0x500; }
+
+std::size_t count_cyrillic(std::u32string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), is_cyrillic));
+}
+
+// Names such as "freedict-deu-rus" state the languages.
+std::string language_of_name(const std::string& base) {
+  constexpr std::array<std::pair<std::string_view, const char*>, 6> kNames = {
+      {{"eng-rus", "ENRU"},
+       {"rus-eng", "RUEN"},
+       {"deu-rus", "DERU"},
+       {"rus-deu", "RUDE"},
+       {"fra-rus", "FRRU"},
+       {"rus-fra", "RUFR"}}};
+  const std::string name = std::filesystem::path(base).filename().string();
+  for (const auto& [part, language] : kNames) {
+    if (name.find(part) != std::string::npos) return language;
+  }
+  return {};
+}
+
+// Writes the entries of a database as source lines, and counts what does not fit.
+class Import {
+ public:
+  Import(const DictdDatabase& database, std::string language)
+      : database_(database),
+        language_(std::move(language)),
+        order_(language_, kStrictDepth),
+        writer_(language_) {}
+
+  void write(std::ostream& out) {
+    for (const DictdEntry& entry : database_.entries()) write_entry(entry, out);
+  }
+
+  void report(const std::string& name) const {
+    const Losses& losses = writer_.losses();
+    std::cerr << name << ": " << database_.entries().size() << " articles, " << lines_
+              << " entries in " << language_ << '\n';
+    const auto count = [&](std::size_t number, const char* what) {
+      if (number != 0) std::cerr << "  " << number << ' ' << what << '\n';
+    };
+    count(characters_, "headwords left out: a character is not in the code page");
+    count(unindexed_, "headwords left out: the index cannot hold their beginning or length");
+    count(empty_, "articles left out: no translation is left");
+    count(losses.characters, "characters of translations written otherwise or dropped");
+    count(losses.definitions, "definitions dropped: too long");
+    count(losses.meanings, "meanings dropped: without a translation");
+  }
+
+ private:
+  std::u32string text_of(std::string_view bytes, std::size_t offset) const {
+    try {
+      return from_utf8(bytes);
+    } catch (const BadUtf8& error) {
+      throw Failure(Status::kDamaged,
+                    at_offset(database_.text_path(), offset + error.offset, "not UTF-8"));
+    }
+  }
+
+  // The headword in the characters that headwords have.
+  static std::u32string plain_headword(std::u32string_view text) {
+    std::u32string word;
+    for (const char32_t c : text) {
+      if (c == U'’' || c == U'‘' || c == U'ʼ') {
+        word += U'\'';
+      } else if (c == U'\u00A0') {
+        word += U' ';
+      } else if (c != U'\u0301' && c != U'\u00AD') {
+        word += c;
+      }
+    }
+    return trimmed(word);
+  }
+
+  // The word in lower case, without what indexes leave out.
+  std::optional<std::string> squeezed(std::u32string_view word) const {
+    std::string bytes;
+    try {
+      bytes = lower_case(encode(plain_headword(word), source_page(language_)), language_);
+    } catch (const Unmappable&) {
+      return std::nullopt;
+    }
+    std::erase_if(bytes, [](char c) { return c > 0 && c < '0'; });
+    return bytes;
+  }
+
+  // Why the headword is no headword of this dictionary: the counter of such words.
+  std::size_t* refusing(const std::u32string& word) {
+    try {
+      const std::string bytes = lower_case(encode(word, source_page(language_)), language_);
+      const bool mark = bytes.find_first_of("*\\") != std::string::npos;
+      return mark || order_.refusal(bytes) ? &unindexed_ : nullptr;
+    } catch (const Unmappable&) {
+      return &characters_;
+    }
+  }
+
+  void write_entry(const DictdEntry& entry, std::ostream& out) {
+    const std::u32string key = text_of(entry.headword, entry.offset);
+    bool any = false;
+    std::vector<PlainEntry> parts = read_article(text_of(entry.text, entry.offset));
+    for (PlainEntry& part : parts) {
+      // Index keys lack capitals and marks; a key of another word than the article's is an alias.
+      const bool alias = squeezed(part.headword) != squeezed(key);
+      part.headword = plain_headword(alias ? key : part.headword);
+      if (std::size_t* counter = refusing(part.headword)) {
+        ++*counter;
+        return;
+      }
+      for (const std::string& line : writer_.lines(part)) {
+        out << line << '\n';
+        ++lines_;
+        any = true;
+      }
+    }
+    if (!any) ++empty_;
+  }
+
+  const DictdDatabase& database_;
+  std::string language_;
+  SortOrder order_;
+  BodyWriter writer_;
+  std::size_t lines_ = 0;
+  std::size_t characters_ = 0;
+  std::size_t unindexed_ = 0;
+  std::size_t empty_ = 0;
+};
+
+// English beside Russian is assumed where the name of the database does not tell.
+std::string language_of_words(const DictdDatabase& database) {
+  std::size_t russian_words = 0;
+  std::size_t russian_texts = 0;
+  for (const DictdEntry& entry : database.entries()) {
+    try {
+      russian_words += count_cyrillic(from_utf8(entry.headword)) > 0 ? 1 : 0;
+      russian_texts += count_cyrillic(from_utf8(entry.text)) > 0 ? 1 : 0;
+    } catch (const BadUtf8&) {
+      continue;
+    }
+  }
+  const std::size_t half = database.entries().size() / 2;
+  if (russian_words > half) return "RUEN";
+  return russian_texts > half ? "ENRU" : "";
+}
+
+std::string settle_language(const ImportOptions& options, const DictdDatabase& database) {
+  std::string language = options.language;
+  if (language.empty()) language = language_of_name(options.base);
+  if (language.empty()) language = language_of_words(database);
+  if (language.empty()) {
+    throw Failure(Status::kUsage, options.base + ": the languages cannot be told: use --language");
+  }
+  if (!is_language(language)) throw Failure(Status::kUsage, "no such language: " + language);
+  return language;
+}
+
+void write_source(std::ostream& out, const std::string& name, Import& import,
+                  const std::string& language) {
+  out << "* Imported from the dictd database " << name << ".\n"
+      << "*: language " << language << '\n'
+      << "*: title " << name.substr(0, 40) << "\n*\n";
+  import.write(out);
+  out.flush();
+  if (!out) throw Failure(Status::kFile, "cannot write the source text");
+}
+
+}  // namespace
+
+void import_dictd(const ImportOptions& options) {
+  const DictdDatabase database(options.base);
+  const std::string language = settle_language(options, database);
+  const std::string name = std::filesystem::path(options.base).filename().string();
+  Import import(database, language);
+  if (options.output == "-") {
+    write_source(std::cout, name, import, language);
+  } else {
+    Delivery output(options.output);
+    errno = 0;
+    std::ofstream out(output.path(), std::ios::binary);
+    if (!out) {
+      throw Failure(Status::kFile, options.output + ": cannot write: " + std::strerror(errno));
+    }
+    write_source(out, name, import, language);
+    out.close();
+    output.deliver();
+  }
+  if (!options.quiet) import.report(name);
+}
+
+}  // namespace kzdic

@@ -1,0 +1,89 @@
+// Look-up of words given as arguments or on standard input.
+#include "tools/lookup_command.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+
+#include "tools/entry_printer.h"
+#include "tools/search.h"
+
+namespace kzdic {
+namespace {
+
+bool names_dictionary(const std::string& argument) {
+  std::string extension = std::filesystem::path(argument).extension().string();
+  for (char& c : extension) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+  constexpr std::array<std::string_view, 5> kExtensions = {".dic", ".dis", ".dit", ".dih", ".dig"};
+  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+}
+
+class Lookup {
+ public:
+  explicit Lookup(const LookupOptions& options)
+      : options_(options), printer_(make_printer(options.raw, options.json, std::cout)) {
+    for (const std::string& path : options.dictionaries) {
+      searchers_.push_back(std::make_unique<Searcher>(path));
+    }
+  }
+
+  // Answers one word; `line` tells that it is a line of standard input.
+  void answer(const std::string& word, bool line) {
+    std::vector<Found> found;
+    for (const auto& searcher : searchers_) {
+      Answer answer = searcher->find({word, options_.prefix, options_.next});
+      if (answer.step == Step::kNone) continue;
+      found.push_back(
+          {searcher->path(), searcher->language(), answer.step, std::move(answer.entries)});
+    }
+    all_found_ = all_found_ && !found.empty();
+    printer_->print(word, found, line);
+    std::cout.flush();
+  }
+
+  void answer_lines() {
+    std::string line;
+    while (std::getline(std::cin, line)) {
+      if (line.ends_with('\r')) line.pop_back();
+      answer(line, true);
+    }
+  }
+
+  bool all_found() const { return all_found_; }
+
+ private:
+  const LookupOptions& options_;
+  std::unique_ptr<Printer> printer_;
+  std::vector<std::unique_ptr<Searcher>> searchers_;
+  bool all_found_ = true;
+};
+
+}  // namespace
+
+void split_arguments(std::vector<std::string> arguments, LookupOptions& options) {
+  auto word = arguments.begin();
+  if (options.dictionaries.empty() && word != arguments.end()) {
+    word = std::find_if_not(word + 1, arguments.end(), names_dictionary);
+    options.dictionaries.assign(arguments.begin(), word);
+  }
+  options.words.assign(word, arguments.end());
+}
+
+Status lookup(const LookupOptions& options) {
+  if (options.dictionaries.empty()) throw Failure(Status::kUsage, "no dictionary is given");
+  if (options.words.empty()) throw Failure(Status::kUsage, "no word is given");
+  Lookup session(options);
+  for (const std::string& word : options.words) {
+    if (word == "-") {
+      session.answer_lines();
+    } else {
+      session.answer(word, false);
+    }
+  }
+  if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
+  return session.all_found() ? Status::kOk : Status::kNotFound;
+}
+
+}  // namespace kzdic

@@ -1,0 +1,32 @@
+// kzdic lookup: words to entries.
+#ifndef KZ_TOOLS_LOOKUP_COMMAND_H
+#define KZ_TOOLS_LOOKUP_COMMAND_H
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "tools/status.h"
+
+namespace kzdic {
+
+struct LookupOptions {
+  std::vector<std::string> dictionaries;
+  std::vector<std::string> words;  // "-" stands for the lines of standard input
+  bool prefix = false;
+  std::size_t next = 0;
+  bool raw = false;
+  bool json = false;
+};
+
+// Splits "FILE... WORD..." in place: the first argument is a dictionary, and so are those behind it
+// up to the first without the name extension of a dictionary. Nothing is done when dictionaries
+// were named by option.
+void split_arguments(std::vector<std::string> arguments, LookupOptions& options);
+
+// kNotFound when some word is in none of the dictionaries.
+Status lookup(const LookupOptions& options);
+
+}  // namespace kzdic
+
+#endif  // KZ_TOOLS_LOOKUP_COMMAND_H

@@ -1,0 +1,58 @@
+// Searches of one dictionary, in UTF-8.
+#ifndef KZ_TOOLS_SEARCH_H
+#define KZ_TOOLS_SEARCH_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/file_header.h"
+#include "tools/open_dictionary.h"
+#include "tools/sort_order.h"
+
+namespace kzdic {
+
+// The forms in which a query is tried, in this order.
+enum class Step {
+  kNone,
+  kTyped,
+  kLowerCase,  // lower-cased by the dictionary's language
+  kFolded,     // lower-cased, and the Russian letter yo written as ye
+};
+
+struct Answer {
+  Step step = Step::kNone;           // the form that was found
+  std::vector<std::string> entries;  // full entries, in the dictionary's code pages
+};
+
+struct Query {
+  std::string word;      // UTF-8
+  bool prefix = false;   // all headwords that begin with the word
+  std::size_t next = 0;  // entries of this many records behind the word
+};
+
+class Searcher {
+ public:
+  // Opens the dictionary. Throws Failure.
+  explicit Searcher(const std::string& path);
+
+  const std::string& path() const { return path_; }
+  const std::string& language() const { return header_.language; }
+
+  Answer find(const Query& query);
+
+ private:
+  std::vector<std::string> forms(const std::string& word) const;
+  std::vector<std::string> exact(const std::string& word, std::size_t next);
+  std::vector<std::string> beginning_with(const std::string& prefix);
+
+  std::string path_;
+  Dictionary dictionary_;
+  FileHeader header_;
+  SortOrder order_;
+};
+
+}  // namespace kzdic
+
+#endif  // KZ_TOOLS_SEARCH_H
