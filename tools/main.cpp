@@ -81,6 +81,7 @@ void add_lookup(CLI::App& app, kzdic::LookupOptions& options, std::vector<std::s
 
 int run(int argc, char** argv) {
   CLI::App app("Builds and searches dictionaries.", "kzdic");
+  app.set_version_flag("--version", "kzdic " KZ_VERSION);
   app.require_subcommand(1);
   kzdic::BuildOptions build_options;
   kzdic::ImportOptions import_options;

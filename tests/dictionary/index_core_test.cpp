@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "dictionary/block.h"
 #include "kz/file.h"
 #include "tests/dictionary/scratch_file.h"
 #include "text/literal.h"
@@ -449,7 +450,7 @@ TEST(DamagedIndex, KeysThatPointOutsideAreNotFollowed) {
 
 // --- Block cache. ---
 
-std::unique_ptr<Block> block() { return std::make_unique<Block>(); }
+std::unique_ptr<kz::Block> block() { return std::make_unique<kz::Block>(); }
 
 TEST(BlockCache, SharesABlockWithTheHeadsOfTheSameGroup) {
   std::vector<std::int32_t> cells(26 * 27 * 27, -1);
@@ -467,7 +468,7 @@ TEST(BlockCache, SharesABlockWithTheHeadsOfTheSameGroup) {
     return image.core.cached_block();
   };
   EXPECT_EQ(cached("abc"), nullptr);
-  Block* abc = image.core.put_block(block());
+  kz::Block* abc = image.core.put_block(block());
   ASSERT_NE(abc, nullptr);
   EXPECT_EQ(cached("abc"), abc);
   EXPECT_EQ(cached("ab"), abc);
@@ -475,7 +476,7 @@ TEST(BlockCache, SharesABlockWithTheHeadsOfTheSameGroup) {
   EXPECT_EQ(cached("abd"), nullptr);
 
   cached("baa");
-  Block* baa = image.core.put_block(block());
+  kz::Block* baa = image.core.put_block(block());
   EXPECT_EQ(cached("ba"), baa);
   EXPECT_EQ(cached("b"), baa);
 
@@ -496,7 +497,7 @@ TEST(BlockCache, HasOneCellPerKey) {
   put_number(bytes, 12, 4, 200);
   Image image(kRussian, 5, bytes, 2);
   image.core.word_block_size(U"б"_1251.data());
-  Block* kept = image.core.put_block(block());
+  kz::Block* kept = image.core.put_block(block());
   EXPECT_EQ(image.core.cached_block(), kept);
   image.core.word_block_size(U"а"_1251.data());
   EXPECT_EQ(image.core.cached_block(), nullptr);
