@@ -155,7 +155,7 @@ int CDicIndex::Init(std::int16_t access_mode, const char* language, const char* 
   if (!kz::is_known(depth, alphabet_size) || record_count < 0) return 0;
 
   const std::size_t entries = kz::entry_count(depth, alphabet_size, record_count);
-  state_ = new (std::nothrow) kz::IndexState;
+  state_ = new (std::nothrow) kz::IndexState(language_[0], *kz::find_alphabet(alphabet_size));
   if (depth == 5) {
     key_records_ = new (std::nothrow) kz::KeyRecord[entries + 1]();
   } else {

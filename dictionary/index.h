@@ -97,7 +97,6 @@ class IndexCore {
   bool grow_records();
 
   bool read_prefix(const char* word, char (&prefix)[6]) const;
-  bool is_letter(char c) const;
   Slots find_slots() const;
   Slots slots() const { return {x_.slots_[0], x_.slots_[1], x_.slots_[2]}; }
   std::int32_t size_at(const Slots& slots, std::int32_t position) const;

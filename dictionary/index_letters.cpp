@@ -39,6 +39,16 @@ consteval std::array<bool, 256> make_headword_marks() {
 
 constexpr auto kHeadwordMarks = make_headword_marks();
 
+bool is_letter_of(char language, const Alphabet& alphabet, char c) {
+  switch (language) {
+    case 'E': return _islower(c) != 0;
+    case 'R': return isruansilower(c) != 0;
+    case 'F':
+    case 'D': return isansilower(c) != 0;
+    default: return alphabet.slot(c) != alphabet.size;
+  }
+}
+
 bool begins_lowercase(char c) { return isansilower(c) || isruansilower(c); }
 
 int letter_or_zero(const Alphabet& alphabet, int slot) {
@@ -58,6 +68,19 @@ const Alphabet* find_alphabet(int size) {
 }
 
 bool is_headword_mark(char c) { return kHeadwordMarks[static_cast<std::uint8_t>(c)]; }
+
+std::array<PrefixRole, 256> prefix_roles(char language, const Alphabet& alphabet) {
+  std::array<PrefixRole, 256> roles;
+  for (std::size_t i = 0; i < roles.size(); ++i) {
+    const char c = static_cast<char>(i);
+    roles[i] = is_letter_of(language, alphabet, c) ? PrefixRole::kLetter
+               : is_digit(c)                       ? PrefixRole::kDigit
+               : ends_word(c)                      ? PrefixRole::kEnd
+               : is_headword_mark(c)               ? PrefixRole::kMark
+                                                   : PrefixRole::kOther;
+  }
+  return roles;
+}
 
 }  // namespace kz
 

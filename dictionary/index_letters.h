@@ -29,6 +29,14 @@ inline bool is_digit(char c) { return c >= '0' && c <= '9'; }
 // The headword ends at the zero byte or, inside a record, at '*'.
 inline bool ends_word(char c) { return c == 0 || c == '*'; }
 
+// What a character at the beginning of a word means to the index of a dictionary.
+enum class PrefixRole : std::uint8_t { kLetter, kDigit, kMark, kEnd, kOther };
+
+// The roles of all characters: letters are the lower-case ones of the dictionary's language, given
+// by its first letter. A dictionary without a language, as an upgraded one may be, has the letters
+// of its alphabet.
+std::array<PrefixRole, 256> prefix_roles(char language, const Alphabet& alphabet);
+
 }  // namespace kz
 
 #endif  // KZ_DICTIONARY_INDEX_LETTERS_H

@@ -22,58 +22,31 @@ std::int32_t distance(std::int64_t from, std::int64_t to) {
 
 }  // namespace
 
-// The lower-case letters of the dictionary's language. A dictionary without a language, as an
-// upgraded one may be, has the letters of its alphabet.
-bool IndexCore::is_letter(char c) const {
-  switch (x_.language_[0]) {
-    case 'E': return _islower(c) != 0;
-    case 'R': return isruansilower(c) != 0;
-    case 'F':
-    case 'D': return isansilower(c) != 0;
-    default: {
-      const Alphabet* alphabet = find_alphabet(x_.alphabet_size_);
-      return alphabet != nullptr && alphabet->slot(c) != alphabet->size;
-    }
-  }
-}
-
 bool IndexCore::read_prefix(const char* word, char (&prefix)[6]) const {
+  const auto role_of = [this](char c) { return x_.state_->roles[static_cast<std::uint8_t>(c)]; };
+  const bool keys = x_.depth_ == 5;
+  const std::size_t places = keys ? kKeyLength : x_.depth_ == 3 ? 3 : 2;
   std::memset(prefix, 0, sizeof prefix);
-  if (x_.depth_ == 5) {
-    for (std::size_t i = 0; i < kKeyLength && !ends_word(word[i]); ++i) {
-      const char c = word[i];
-      if (!is_letter(c) && !(i == 0 ? is_digit(c) : is_headword_mark(c))) return false;
-      prefix[i] = c;
-    }
-    return true;
-  }
-  // In a table only letters count; what stands for "no letter" is kept as zero.
-  const std::size_t places = x_.depth_ == 3 ? 3 : 2;
   for (std::size_t i = 0; i < places; ++i) {
-    const char c = word[i];
-    if (is_letter(c)) {
-      prefix[i] = c;
-    } else if (i == 0) {
-      if (!is_digit(c)) return false;
-    } else if (ends_word(c)) {
-      return true;
-    } else if (!is_headword_mark(c)) {
-      return false;
-    }
+    const PrefixRole role = role_of(word[i]);
+    if (role == PrefixRole::kEnd) return keys || i > 0;
+    if (role == PrefixRole::kOther || (role == PrefixRole::kMark && i == 0)) return false;
+    // In a table only letters count; what stands for "no letter" is kept as zero.
+    if (role == PrefixRole::kLetter || keys) prefix[i] = word[i];
   }
   return true;
 }
 
 bool IndexCore::set_prefix(const char* word) {
   char prefix[6];
-  if (word == nullptr || !read_prefix(word, prefix)) return false;
+  if (word == nullptr || x_.state_ == nullptr || !read_prefix(word, prefix)) return false;
   std::memcpy(x_.prefix_, prefix, sizeof prefix);
   return true;
 }
 
 // The cell of the prefix; a first slot of n when the table is empty.
 Slots IndexCore::find_slots() const {
-  const Alphabet& alphabet = *find_alphabet(x_.alphabet_size_);
+  const Alphabet& alphabet = x_.state_->alphabet;
   const IndexShape shape{alphabet.size, x_.depth_ == 3};
   const int n = alphabet.size;
   Slots s{alphabet.slot(x_.prefix_[0]), n, n};

@@ -2,6 +2,7 @@
 #ifndef KZ_DICTIONARY_INDEX_ORDER_H
 #define KZ_DICTIONARY_INDEX_ORDER_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "dictionary/block.h"
+#include "dictionary/index_letters.h"
 
 namespace kz {
 
@@ -44,6 +46,11 @@ class GroupOrder {
 
 // What an index keeps beside its documented fields.
 struct IndexState {
+  IndexState(char language, const Alphabet& alphabet_of_index)
+      : alphabet(alphabet_of_index), roles(prefix_roles(language, alphabet_of_index)) {}
+
+  const Alphabet& alphabet;
+  std::array<PrefixRole, 256> roles;
   GroupOrder groups;                           // all groups
   GroupOrder pair_heads;                       // depth 3: the heads of the letter pairs
   std::vector<std::unique_ptr<Block>> blocks;  // what the cells of the block cache point to

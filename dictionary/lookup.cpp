@@ -57,7 +57,7 @@ const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_
 
 Lookup::Place Lookup::place_of(const char* word) {
   const auto rest_of = [this](std::int32_t position) {
-    return Place{position, size_in_records(position, INT32_MAX), false};
+    return Place{position, size_in_records(position, INT32_MAX)};
   };
   if (word == nullptr) {
     return d_.data_offset_ > INT32_MAX ? Place{}
@@ -70,7 +70,7 @@ Lookup::Place Lookup::place_of(const char* word) {
   if (position < 0) return {};
   if (d_.search_mode_ == kRestOfRecords) return rest_of(position);
   const bool widened = index.widen(d_.search_mode_);
-  if (const Block* kept = index.cached_block()) return {position, kept->size(), true};
+  if (Block* kept = index.cached_block()) return {position, kept->size(), true, kept};
   std::int32_t size = index.block_size();
   if (size < 1) size = kUnknownBlockSize;
   return {position, size_in_records(position, size), !widened};
@@ -80,13 +80,15 @@ std::int32_t Lookup::size_in_records(std::int32_t position, std::int32_t size) c
   return std::min(size, d_.index_offset_ - position);
 }
 
-// The block in memory; null when it cannot be had there, and is to be read in steps. The index
-// keeps the blocks in modes 2 and 4, and is at the group of the block.
+// The block in memory; null when it cannot be had there, and is to be read in steps. The index,
+// which is at the group of the block, keeps it in modes 2 and 4.
 Block* Lookup::block(const Place& place) {
+  if (place.kept != nullptr) return place.kept;
   IndexCore index(d_.index_);
-  Block* kept =
-      index.has_cache() ? index.cached_block() : s_.blocks.find(place.position, place.size);
-  if (kept != nullptr) return kept;
+  if (!index.has_cache()) {
+    Block* const kept = s_.blocks.find(place.position, place.size);
+    if (kept != nullptr) return kept;
+  }
   std::unique_ptr<Block> loaded = Block::load(d_.file_, place.position, place.size);
   if (!loaded) return nullptr;
   return index.has_cache() ? index.put_block(std::move(loaded)) : s_.blocks.put(std::move(loaded));
@@ -212,11 +214,15 @@ const char* Lookup::found(std::int16_t level) {
   return d_.entry_;
 }
 
+// Larger blocks, such as the whole rows that the row heads of depth 3 stand for, are left to the
+// searches that want them.
 void Lookup::load_all_blocks() {
+  constexpr std::int32_t kLargestLoaded = 65531;
   if (!has_mode(2)) return;
-  IndexCore(d_.index_).for_each_group([this](std::int32_t position, std::int32_t size) {
+  IndexCore index(d_.index_);
+  index.for_each_group([&](std::int32_t position, std::int32_t size) {
     const std::int32_t known = size_in_records(position, size < 1 ? kUnknownBlockSize : size);
-    if (known > 0) block({position, known, true});
+    if (known > 0 && known <= kLargestLoaded) block({position, known, true, index.cached_block()});
   });
 }
 

@@ -78,6 +78,7 @@ class Lookup {
     std::int32_t position = -1;
     std::int32_t size = 0;
     bool one_block = false;
+    Block* kept = nullptr;  // that block, when the index keeps it
   };
 
   std::uint16_t read_header(std::int16_t mode);

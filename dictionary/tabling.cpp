@@ -65,8 +65,8 @@ bool walk_packed(std::string_view block, Visit visit) {
 // Whether the key can be nothing but a headword. One with a headword end or a line feed in it may
 // also match across them.
 bool Lookup::key_is_headword() const {
-  return s_.whole_words || (key().find(kHeadwordEnd) == std::string_view::npos &&
-                            key().find('\n') == std::string_view::npos);
+  return s_.whole_words ||
+         std::ranges::none_of(key(), [](char c) { return c == kHeadwordEnd || c == '\n'; });
 }
 
 // True when the headwords of the block are in the table since this call.
