@@ -84,6 +84,14 @@ class KZ_API CDicEntry {
   // kz/entry_text.h.
   char* PackEntry(char* buffer) const;
 
+  // Splits a full entry, parses its meanings and joins the pieces again; returns the full entry in
+  // this normal form. The text may be one of this object. Both do the same; CodeFullEntry and
+  // DecodeFullEntry are their steps between split and join, and change nothing.
+  const char* Code(const char* text, char* buffer);
+  const char* Decode(const char* text, char* buffer);
+  void CodeFullEntry();
+  void DecodeFullEntry();
+
   void SetEntry(const char* entry);           // sets the body
   const char* GetEntry(char* buffer) const;   // the body; the buffer is left untouched
   void SetFullEntry(const char* full_entry);  // sets the text that Split takes apart

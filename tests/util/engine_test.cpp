@@ -1,0 +1,113 @@
+// Registry of engines and pools of ids.
+#include "kz/engine.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <set>
+
+namespace {
+
+// The registry is one for the process: each test begins and ends with all handles free.
+class EngineRegistry : public testing::Test {
+ protected:
+  void SetUp() override { reset(); }
+  void TearDown() override { reset(); }
+
+  static void reset() {
+    for (int id = 0; id < 256; ++id) FreeHandler(255, static_cast<std::int16_t>(id));
+    kz_data_free();
+  }
+
+  int first_ = 1;
+  int second_ = 2;
+};
+
+TEST_F(EngineRegistry, HoldsTwoEngines) {
+  EXPECT_EQ(KZEngine(0), nullptr) << "no table";
+  EXPECT_EQ(SetKZEngine(nullptr, 1), -1);
+  EXPECT_EQ(SetKZEngine(&first_, 0), 0);
+  EXPECT_EQ(SetKZEngine(&second_, 1), 1);
+  EXPECT_EQ(SetKZEngine(&first_, 1), 2) << "an id, but no place";
+  EXPECT_EQ(KZEngine(0), &first_);
+  EXPECT_EQ(KZEngine(1), &second_);
+  EXPECT_EQ(KZEngine(2), nullptr);
+  EXPECT_EQ(KZEngine(65535), nullptr);
+  EXPECT_EQ(KZDTBEngine(0), nullptr);
+  EXPECT_EQ(KZDTBEngine(1), &second_);
+
+  FreeEngineHandler(2);
+  FreeEngineHandler(0);
+  EXPECT_EQ(KZEngine(0), nullptr);
+  EXPECT_EQ(SetKZEngine(&second_, 2), 0) << "the handle is free again";
+  EXPECT_EQ(KZEngine(0), &second_);
+  EXPECT_EQ(KZDTBEngine(0), nullptr) << "the flag is 1 or nothing";
+  EXPECT_EQ(GetNewEngineHandler(), 3) << "id 2 was not freed";
+}
+
+TEST_F(EngineRegistry, KeepsIdsWithoutATable) {
+  for (const std::int16_t entries :
+       {std::int16_t{-1}, std::int16_t{0}, std::int16_t{1}, std::int16_t{2}, std::int16_t{32767}}) {
+    EXPECT_EQ(kz_data_init(entries), 1);
+    EXPECT_EQ(SetKZEngine(&first_, 1), 0);
+    EXPECT_EQ(SetKZEngine(&second_, 1), 1);
+    EXPECT_EQ(kz_data_init(2), 1) << "the table stays";
+    EXPECT_EQ(KZEngine(1), &second_);
+    kz_data_free();
+    EXPECT_EQ(KZEngine(1), nullptr);
+    FreeEngineHandler(1);
+    EXPECT_EQ(GetNewEngineHandler(), 2) << "ids 0 and 1 are taken";
+    EXPECT_EQ(KZEngine(1), nullptr) << "the new table is empty";
+    reset();
+  }
+}
+
+TEST_F(EngineRegistry, FailsWhenAllIdsAreTaken) {
+  for (int i = 0; i < 256; ++i) EXPECT_EQ(GetNewEngineHandler(), i);
+  EXPECT_EQ(GetNewEngineHandler(), -1);
+  EXPECT_EQ(SetKZEngine(&first_, 0), -1);
+  EXPECT_EQ(GetNewHandler(2), 0) << "another pool";
+  FreeHandler(1, 1);
+  EXPECT_EQ(SetKZEngine(&first_, 0), 1);
+  EXPECT_EQ(KZEngine(0), nullptr) << "taken, but not registered";
+}
+
+TEST_F(EngineRegistry, TakesAKernelBlock) {
+  EXPECT_EQ(kz_comm_init_kernel(nullptr), 0);
+  EXPECT_EQ(kz_comm_init_kernel(&first_), 1);
+  kz_comm_free_kernel();
+}
+
+TEST(GenId, IsEightIndependentPools) {
+  static_assert(sizeof(CGenId) == 256);
+  std::mt19937 random(7);
+  CGenId ids;
+  std::set<int> taken[8];
+  const auto is_free = [&taken](int mask, int id) {
+    for (std::size_t pool = 0; pool < 8; ++pool) {
+      if ((mask >> pool & 1) != 0 && taken[pool].count(id) != 0) return false;
+    }
+    return true;
+  };
+  for (int i = 0; i < 20000; ++i) {
+    const auto mask = static_cast<std::uint8_t>(random() % 4 != 0 ? 1u << random() % 8 : random());
+    if (random() % 5 < 3) {
+      int expected = 0;
+      while (expected < 256 && !is_free(mask, expected)) ++expected;
+      if (expected == 256) expected = -1;
+      ASSERT_EQ(ids.GetId(mask), expected);
+      for (std::size_t pool = 0; pool < 8 && expected >= 0; ++pool) {
+        if ((mask >> pool & 1) != 0) taken[pool].insert(expected);
+      }
+    } else {
+      const int id = static_cast<int>(random() % 270) - 7;
+      ids.DelId(mask, static_cast<std::int16_t>(id));
+      for (std::size_t pool = 0; pool < 8; ++pool) {
+        if ((mask >> pool & 1) != 0) taken[pool].erase(id);
+      }
+    }
+  }
+  EXPECT_EQ(CGenId().GetId(0), 0);
+}
+
+}  // namespace
