@@ -1,0 +1,99 @@
+// Names and expansion of compact attributes, and paradigm values.
+#include "grammar/attributes.h"
+
+#include <array>
+#include <cstddef>
+#include <iterator>
+#include <span>
+#include <string_view>
+
+#include "grammar/fields.h"
+#include "kz/gram_attr.h"
+#include "kz/gram_codec.h"
+
+namespace kz {
+namespace {
+
+using Names = std::span<const std::string_view>;
+
+constexpr std::string_view name_of(const WordClass& word_class) { return word_class.name; }
+constexpr std::string_view name_of(const char* name) { return name; }
+
+template <class Row, std::size_t Size>
+consteval std::array<std::string_view, Size> names_of(const Row (&rows)[Size]) {
+  std::array<std::string_view, Size> names;
+  for (std::size_t i = 0; i < Size; ++i) names[i] = name_of(rows[i]);
+  return names;
+}
+
+constexpr auto word_class_names = names_of(attribute::word_classes);
+constexpr auto addition_names = names_of(attribute::additions);
+constexpr auto stem_change_names = names_of(attribute::stem_changes);
+
+// The names of a kind, none for a kind that does not exist.
+Names names_of_kind(int16_t kind) {
+  switch (kind) {
+    case 0: return word_class_names;
+    case 1: return addition_names;
+    case 2: return stem_change_names;
+    default: return {};
+  }
+}
+
+// Applies the class whose index, a signed number, stands in the field.
+void expand(GRAMINFO& gram, const Field& index_field, std::span<const WordClass> classes) {
+  const auto index = static_cast<std::int8_t>(index_field.get(gram));
+  if (index < 0 || static_cast<std::size_t>(index) >= classes.size()) return;
+  const WordClass& word_class = classes[static_cast<std::size_t>(index)];
+  for (std::size_t i = 0; i < std::size(gram.word); ++i) {
+    gram.word[i] = (gram.word[i] & ~word_class.cleared.word[i]) | word_class.added.word[i];
+  }
+  if (word_class.code != attribute::kept) field::code.set(gram, word_class.code);
+}
+
+}  // namespace
+}  // namespace kz
+
+const char* GetAttrNameStr(int16_t kind, int16_t index) {
+  const kz::Names names = kz::names_of_kind(kind);
+  if (index < 0 || static_cast<std::size_t>(index) >= names.size()) return nullptr;
+  return names[static_cast<std::size_t>(index)].data();
+}
+
+int16_t GetAttrNameIndex(int16_t kind, const char* name) {
+  const kz::Names names = kz::names_of_kind(kind);
+  if (names.empty()) return 0;
+  if (name == nullptr) return -1;
+  const std::string_view wanted = name;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (names[i] == wanted) return static_cast<int16_t>(i);
+  }
+  return -1;
+}
+
+void SetGrSrcAttr(GRAMINFO* gram, const uint32_t* attributes) {
+  if (gram == nullptr || attributes == nullptr) return;
+  const uint32_t indices = attributes[0], paradigm = attributes[1];
+  // The shifts bring the sign bit of the six-bit index to that of a byte and back.
+  const auto addition = static_cast<int8_t>(indices >> 8 << 2) >> 2;
+  kz::field::attribute_value.set(*gram, indices >> 14);
+  kz::field::attribute0.set(*gram, indices);
+  kz::field::attribute1.set(*gram, static_cast<uint32_t>(addition));
+  kz::set_paradigm(*gram, paradigm, indices >> 16, static_cast<unsigned char>(paradigm >> 16));
+  SetGrSrcAttr1(gram);
+}
+
+void SetGrSrcAttr1(GRAMINFO* gram) {
+  if (gram == nullptr) return;
+  kz::expand(*gram, kz::field::attribute0, kz::attribute::word_classes);
+  kz::expand(*gram, kz::field::attribute1, kz::attribute::additions);
+}
+
+uint32_t MakeParadigm(int16_t number, int16_t base) {
+  if (number == -1) return 0xFFFFFFFF;
+  return static_cast<uint16_t>(number) | static_cast<uint32_t>(static_cast<uint16_t>(base)) << 16;
+}
+
+int16_t GetParaNum(uint32_t paradigm) { return static_cast<int16_t>(paradigm); }
+
+uint16_t GetParaBase(uint32_t paradigm) { return static_cast<uint16_t>(paradigm >> 16); }
