@@ -1,0 +1,357 @@
+// Replacement buffers: files, lines and limits, and replacement beside a slow model.
+#include "kz/replace_buffer.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kz/file.h"
+#include "tests/support/temp_dir.h"
+#include "text/literal.h"
+
+using kz::operator""_1251;
+
+namespace {
+
+std::string string_of(std::string_view text) { return std::string(text); }
+
+// A listed word, its replacement, and which of the two kinds of line it is.
+struct Line {
+  std::string word;
+  std::string replacement;
+  bool replaces;
+};
+
+// The lines of a text, character by character: a carriage return ends a line, a line feed behind
+// it belongs to neither line.
+std::vector<Line> lines_of(const std::string& text) {
+  std::vector<Line> lines;
+  std::size_t at = text.starts_with("\r\n") ? 2 : 0;
+  while (true) {
+    if (at < text.size() && text[at] == '\n') ++at;
+    if (at >= text.size()) return lines;
+    Line line{"", "", false};
+    for (; at < text.size() && text[at] != '\r'; ++at) {
+      if (line.replaces) {
+        line.replacement += text[at];
+      } else if (text[at] == '=') {
+        line.replaces = true;
+      } else {
+        line.word += text[at];
+      }
+    }
+    lines.push_back(line);
+    ++at;
+  }
+}
+
+std::string slow_change(const std::vector<Line>& lines, const std::string& source) {
+  std::string result;
+  std::size_t at = 0;
+  while (at < source.size()) {
+    bool again = true;
+    while (again) {
+      again = false;
+      for (const Line& line : lines) {
+        if (line.word.empty() || source.compare(at, line.word.size(), line.word) != 0) continue;
+        at += line.word.size();
+        if (!line.replaces) continue;
+        result += line.replacement;
+        again = true;
+        break;
+      }
+    }
+    if (at < source.size()) result += source[at++];
+  }
+  return result;
+}
+
+std::string change(CFindBuffer& buffer, const std::string& source) {
+  std::vector<char> output(source.size() * 64 + 1);
+  EXPECT_EQ(ChangeWord(&buffer, source.c_str(), output.data()), output.data());
+  return output.data();
+}
+
+class ReplaceBufferTest : public testing::Test {
+ protected:
+  std::string write(const std::string& name, std::string_view contents) const {
+    std::ofstream(dir_.file(name), std::ios::binary) << contents;
+    return dir_.file(name);
+  }
+  std::string read(const std::string& name) const {
+    std::ifstream in(dir_.file(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+  }
+
+  kz::test::TempDir dir_;
+  CFindBuffer buffer_{0};
+  std::array<char, 16100> out_{};
+};
+
+TEST_F(ReplaceBufferTest, WordsAreFoundAndReplacedByTheirLines) {
+  const std::string path = write("list.txt", U"кот=кошка\r\nпёс\nx=1=2\r\ne=\r\n \t\r\n"_1251);
+  buffer_.SetModified(7);
+  ASSERT_EQ(buffer_.Load(path.c_str()), 0);
+  EXPECT_EQ(buffer_.GetModified(), 0);
+  EXPECT_EQ(buffer_.GetBuffer(), U"\r\nкот=кошка\r\nпёс\nx=1=2\r\ne=\r\n"_1251);
+
+  const char* position = buffer_.Replace(U"кот"_1251.data(), out_.data());
+  EXPECT_EQ(out_.data(), U"кошка"_1251);
+  EXPECT_EQ(position, buffer_.GetBuffer() + 6);
+  EXPECT_STREQ((buffer_.Replace("x", out_.data()), out_.data()), "1=2");
+  EXPECT_EQ(buffer_.Replace("e", out_.data()),
+            buffer_.GetBuffer() + strlen(buffer_.GetBuffer()) - 2);
+  EXPECT_STREQ(out_.data(), "");
+  EXPECT_EQ(buffer_.GetCorrected(), 3);
+  EXPECT_EQ(buffer_.Replace("ko", out_.data()), nullptr);
+  EXPECT_EQ(buffer_.Replace("", out_.data()), nullptr);
+  EXPECT_EQ(buffer_.Replace(nullptr, nullptr), nullptr);
+  EXPECT_EQ(buffer_.GetCorrected(), 3);
+
+  ASSERT_EQ(buffer_.SetBuffer("ab\r\nabc=d\r\nlast"), 1);
+  const char* text = buffer_.GetBuffer();
+  EXPECT_EQ(buffer_.Find("ab"), 1);
+  EXPECT_EQ(buffer_.Find("abc"), 0);
+  EXPECT_EQ(buffer_.Find("last"), 0);  // not ended
+  EXPECT_EQ(buffer_.Find("abc", 0), nullptr);
+  EXPECT_EQ(buffer_.Find("ab", 1), nullptr);
+  EXPECT_EQ(buffer_.Find("abc", 1), text + 6);
+  EXPECT_EQ(buffer_.Find("abc", 2), text + 6);
+  EXPECT_EQ(buffer_.Find("la", -1), text + 13);
+  EXPECT_EQ(FindWordInBuffer(text, nullptr, 0), nullptr);
+  EXPECT_EQ(FindWordInBuffer(text, "", 2), nullptr);
+  EXPECT_EQ(FindWordInBuffer(nullptr, "ab", 0), nullptr);
+  EXPECT_EQ(FindWordInBuffer("ab\r\n", "ab", 2), nullptr);  // no line feed in front
+  const std::string longest(250, 'w');
+  const std::string line = '\n' + longest + "w=";
+  EXPECT_EQ(FindWordInBuffer(line.c_str(), longest.c_str(), 2), line.c_str() + 1);
+  EXPECT_EQ(FindWordInBuffer(line.c_str(), (longest + 'w').c_str(), 2), nullptr);
+}
+
+TEST_F(ReplaceBufferTest, LinesAreReadAtPositionsAndOneByOne) {
+  EXPECT_EQ(buffer_.First(out_.data()), nullptr);
+  EXPECT_EQ(buffer_.Next(out_.data()), nullptr);
+  buffer_.SetBuffer("\r\na\r\n=b\r\n\r\nc=d=e");
+  EXPECT_EQ(buffer_.Next(out_.data()), out_.data());  // behind the first line
+  EXPECT_STREQ(out_.data(), "");
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_STREQ(buffer_.First(out_.data()), "a");
+    EXPECT_STREQ(buffer_.Next(out_.data()), "");
+    EXPECT_STREQ(buffer_.Next(out_.data()), "");
+    buffer_.Concat("f");  // an iteration goes on
+    EXPECT_STREQ(buffer_.Next(out_.data()), "c");
+    EXPECT_EQ(buffer_.Next(out_.data()), nullptr);
+    EXPECT_STREQ(out_.data(), "");
+    EXPECT_EQ(buffer_.Next(out_.data()), nullptr);
+  }
+  buffer_.Clear();
+  EXPECT_EQ(buffer_.First(out_.data()), nullptr);
+
+  std::strcpy(out_.data(), "old");
+  EXPECT_EQ(buffer_.GetWordFor("", out_.data()), nullptr);
+  EXPECT_EQ(buffer_.GetWordFor("\n", out_.data()), nullptr);
+  EXPECT_STREQ(buffer_.GetWordFor(nullptr, out_.data()), "old");
+  EXPECT_STREQ(buffer_.GetWordFor("\nab=c\r", out_.data()), "ab");
+  EXPECT_STREQ(buffer_.GetWordFor("\n\nab", out_.data()), "\nab");
+  const char* const text = "ab\r\nc=d=e\r\n";
+  EXPECT_EQ(buffer_.GetWordTo(text, out_.data()), text + 6);
+  EXPECT_STREQ(out_.data(), "d=e");
+  EXPECT_EQ(buffer_.GetWordTo(text, nullptr), text + 6);
+  EXPECT_EQ(buffer_.GetWordTo("ab", out_.data()), nullptr);
+  EXPECT_STREQ(out_.data(), "");
+  EXPECT_EQ(buffer_.GetWordTo(nullptr, out_.data()), nullptr);
+}
+
+TEST_F(ReplaceBufferTest, BlocksGrowUpToTheLimitOfTheText) {
+  const auto text = [&] { return std::string(buffer_.GetBuffer()); };
+  for (const std::uint16_t size : std::array<std::uint16_t, 5>{1, 4, 100, 0, 65535}) {
+    EXPECT_EQ(buffer_.Free(), 0);
+    EXPECT_EQ(buffer_.Find("a"), 0);
+    EXPECT_EQ(buffer_.Allocate(size), 1);
+    EXPECT_EQ(text(), "\r\n");
+    const std::string half(8000, 'h');
+    EXPECT_EQ(buffer_.SetBuffer(std::string(16000, 'x').c_str()), 0);
+    EXPECT_EQ(buffer_.SetBuffer(nullptr), 0);
+    EXPECT_EQ(buffer_.GetModified(), 0);
+    EXPECT_EQ(buffer_.SetBuffer(half.c_str()), 1);
+    EXPECT_EQ(buffer_.GetModified(), 1);
+    EXPECT_EQ(buffer_.Allocate(100), 1);
+    EXPECT_EQ(text(), "\r\n" + half);
+    // The text, the word, "=" and the replacement reach 16,000, or stay one below.
+    EXPECT_EQ(buffer_.Add("w", std::string(7996, 'r').c_str()), 0);
+    EXPECT_EQ(buffer_.Add("w", std::string(7995, 'r').c_str()), 1);
+    EXPECT_EQ(text(), "\r\n" + half + "w=" + std::string(7995, 'r') + "\r\n");
+    EXPECT_EQ(buffer_.Add("x"), 0);
+    EXPECT_EQ(buffer_.Concat("x"), 0);
+
+    EXPECT_EQ(buffer_.SetBuffer(std::string(15999, 'x').c_str()), 1);
+    EXPECT_EQ(text().size(), 16001u);
+    // A text of the buffer itself.
+    EXPECT_EQ(buffer_.SetBuffer(buffer_.GetBuffer() + 15000), 1);
+    EXPECT_EQ(text(), "\r\n" + std::string(1001, 'x'));
+  }
+}
+
+TEST_F(ReplaceBufferTest, AddAppendsWordsThatAreNotListed) {
+  EXPECT_EQ(buffer_.Add(nullptr), 0);
+  EXPECT_EQ(buffer_.Add(""), 0);
+  EXPECT_EQ(buffer_.Add(" \t\r\n"), 0);
+  EXPECT_EQ(buffer_.Add(nullptr, "x"), 0);
+  EXPECT_EQ(buffer_.Concat(nullptr), 0);
+  EXPECT_EQ(buffer_.Concat(""), 0);
+  EXPECT_EQ(buffer_.Concat(std::string(512, 'x').c_str()), 0);
+  EXPECT_EQ(buffer_.Add(std::string(255, 'x').c_str()), 0);
+  const std::string longest(254, 'x');
+  EXPECT_EQ(buffer_.Add(longest.c_str()), 1);
+  EXPECT_EQ(buffer_.Add(longest.c_str()), 1);
+  EXPECT_EQ(buffer_.Add(longest.c_str(), "replaced"), 1);
+  EXPECT_EQ(buffer_.Add("a", "b"), 1);
+  EXPECT_EQ(buffer_.Add("a", nullptr), 1);
+  EXPECT_EQ(buffer_.Concat(std::string(511, 'c').c_str()), 1);
+  EXPECT_EQ(buffer_.GetBuffer(), "\r\n" + longest + "\r\na=b\r\na=\r\n" + std::string(511, 'c'));
+  EXPECT_EQ(buffer_.GetModified(), 0);
+  const std::string wide(300, 'w');
+  EXPECT_EQ(buffer_.SetBuffer((wide + '=' + wide + "1\r\n").c_str()), 1);
+  EXPECT_NE(buffer_.Replace(wide.c_str(), out_.data()), nullptr);
+  EXPECT_EQ(out_.data(), wide + '1');
+}
+
+TEST_F(ReplaceBufferTest, FilesAreReadWhole) {
+  const std::string path = dir_.file("list.txt");
+  EXPECT_EQ(LoadBuffer(nullptr, out_.data()), 196);
+  EXPECT_EQ(LoadBuffer(path.c_str(), nullptr), 196);
+  EXPECT_EQ(LoadBuffer(path.c_str(), out_.data()), 195);
+  EXPECT_EQ(LoadBuffer(dir_.file("").c_str(), out_.data()), 195);
+  out_.fill('?');
+  write("list.txt", "a=b\r\n");
+  EXPECT_EQ(LoadBuffer(path.c_str(), out_.data()), 0);
+  EXPECT_EQ(std::string_view(out_.data(), 8), std::string_view("a=b\r\n\0\0?", 8));
+
+  const auto load = [&](const std::string& contents) {
+    return buffer_.Load(write("list.txt", contents).c_str());
+  };
+  buffer_.SetModified(5);
+  buffer_.Add("old");
+  EXPECT_EQ(load(std::string(16000, 'x')), 202);
+  EXPECT_STREQ(buffer_.GetBuffer(), "\r\n");
+  buffer_.Add("old");
+  EXPECT_EQ(buffer_.Load(dir_.file("none").c_str()), 195);
+  EXPECT_STREQ(buffer_.GetBuffer(), "\r\n");
+  EXPECT_EQ(buffer_.Load(nullptr), 196);
+  EXPECT_EQ(buffer_.GetModified(), 5);
+  for (const char* blank : {"", "\r\n", " \t\n\r\n"}) {
+    EXPECT_EQ(load(blank), 0);
+    EXPECT_STREQ(buffer_.GetBuffer(), "\r\n");
+  }
+
+  // With a line end up to 15,999 characters: longer texts keep the one that they lack.
+  for (const std::size_t length : {1, 15996, 15997, 15998, 15999}) {
+    const std::string line(length, 'x');
+    ASSERT_EQ(load(line), 0);
+    const std::string text = buffer_.GetBuffer();
+    EXPECT_EQ(text, "\r\n" + line + (length <= 15997 ? "\r\n" : ""));
+    ASSERT_EQ(buffer_.Save(path.c_str()), 0);
+    ASSERT_EQ(buffer_.Load(path.c_str()), 0);
+    EXPECT_EQ(buffer_.GetBuffer(), text);
+  }
+}
+
+TEST_F(ReplaceBufferTest, FilesAreWrittenInOneStep) {
+  const std::string path = dir_.file("list.txt");
+  EXPECT_EQ(SaveBuffer(nullptr, ""), 196);
+  EXPECT_EQ(SaveBuffer(path.c_str(), nullptr), 196);
+  EXPECT_EQ(SaveBuffer(dir_.file("").c_str(), "a"), 195);
+  EXPECT_EQ(SaveBuffer(dir_.file("none/list.txt").c_str(), "a"), 195);
+  EXPECT_EQ(buffer_.Save(path.c_str()), 196);
+  EXPECT_FALSE(std::filesystem::exists(path));
+
+  buffer_.SetBuffer("\r\n \r\na=b\r\n");
+  EXPECT_EQ(buffer_.Save(path.c_str()), 0);
+  EXPECT_EQ(read("list.txt"), "a=b\r\n");
+  EXPECT_EQ(buffer_.GetModified(), 0);
+
+  buffer_.SetBuffer("new");
+  ZCFile other(path.c_str(), 0x8020);
+  EXPECT_EQ(buffer_.Save(path.c_str()), 195);
+  other.Close();
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+  EXPECT_EQ(buffer_.Save(path.c_str()), 195);
+  EXPECT_EQ(buffer_.GetModified(), 1);
+  EXPECT_EQ(read("list.txt"), "a=b\r\n");
+  std::filesystem::permissions(path, std::filesystem::perms(0640));
+
+  std::filesystem::create_symlink("list.txt", dir_.file("link"));
+  EXPECT_EQ(buffer_.Save(dir_.file("link").c_str()), 0);
+  EXPECT_EQ(read("list.txt"), "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(dir_.file("link")));
+  EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.file("")), {}), 2);
+}
+
+TEST_F(ReplaceBufferTest, ChangedTextFollowsTheLinesInTheirOrder) {
+  struct {
+    std::string buffer, source, result;
+  } const cases[] = {
+      {"ab=X", "cabd", "cXd"},
+      {"ab\r\nb=Y", "ab", ""},
+      {"ab", "ababX", "abX"},               // behind a dropped word one character is copied
+      {"ab\r\nc=Z\r\nab=Y", "abcab", "Z"},  // then the lines start anew, and drop
+      {"a=1\r\nab=2", "ab", "1b"},
+      {"ab=2\r\na=1", "aab", "12"},
+      {"a=aa", "aba", "aabaa"},
+      {"=X\r\n\r\na=", "bab", "bb"},
+      {"", "abc", "abc"},
+  };
+  for (const auto& c : cases) {
+    buffer_.SetBuffer((c.buffer + "\r\n").c_str());
+    EXPECT_EQ(change(buffer_, c.source), c.result) << c.buffer;
+  }
+  CFindBuffer empty(0);
+  EXPECT_EQ(change(empty, "abc"), "abc");
+  EXPECT_STREQ(ChangeWord(nullptr, "abc", out_.data()), "abc");
+  EXPECT_STREQ(ChangeWord(&empty, nullptr, out_.data()), "");
+  EXPECT_EQ(ChangeWord(&empty, "abc", nullptr), nullptr);
+}
+
+TEST_F(ReplaceBufferTest, ChangedTextAgreesWithASlowModel) {
+  const std::string letters = string_of(U"ab\rЯ\n="_1251);
+  std::mt19937 random(1);
+  for (int round = 0; round < 3000; ++round) {
+    std::string text = random() % 8 != 0 ? "\r\n" : "";
+    for (auto n = random() % 12; n > 0; --n) {
+      for (auto k = random() % (2 + round % 5); k > 0; --k) text += letters[random() % 2];
+      if (random() % 2 != 0) {
+        text += '=';
+        for (auto k = random() % 4; k > 0; --k) text += letters[random() % letters.size()];
+      }
+      text += random() % 4 != 0 ? "\r\n" : std::string(1, letters[random() % letters.size()]);
+    }
+    ASSERT_EQ(buffer_.SetBuffer(text.c_str()), 1);
+    text = buffer_.GetBuffer();
+    const std::vector<Line> lines = lines_of(text);
+    std::size_t i = 0;
+    for (char* word = buffer_.First(out_.data()); word; word = buffer_.Next(out_.data())) {
+      ASSERT_LT(i, lines.size());
+      ASSERT_EQ(word, lines[i++].word) << text;
+    }
+    ASSERT_EQ(i, lines.size());
+    for (int k = 0; k < 4; ++k) {
+      std::string source(random() % 30, ' ');
+      for (char& c : source) c = letters[random() % 4];
+      ASSERT_EQ(change(buffer_, source), slow_change(lines, source)) << text << source;
+    }
+    buffer_.GetBuffer()[random() % text.size()] = 'b';  // the compiled words follow
+    const std::string source = "ababaab";
+    ASSERT_EQ(change(buffer_, source), slow_change(lines_of(buffer_.GetBuffer()), source));
+  }
+}
+
+}  // namespace
