@@ -22,8 +22,12 @@ constexpr std::size_t kCellSize = 4;
 constexpr std::size_t kRecordSize = 8;
 static_assert(sizeof(KeyRecord) == kRecordSize);
 
-bool is_known(std::int16_t depth, std::int16_t alphabet_size) {
-  return (depth == 2 || depth == 3 || depth == 5) && find_alphabet(alphabet_size) != nullptr;
+// A depth and an alphabet that there are, and for depth 5, which alone has key records, a number of
+// them whose size in bytes fits 32 bits.
+bool is_known(std::int16_t depth, std::int16_t alphabet_size, std::int32_t records) {
+  constexpr std::int32_t kRecordsMax = INT32_MAX / static_cast<std::int32_t>(kRecordSize);
+  if (find_alphabet(alphabet_size) == nullptr) return false;
+  return depth == 2 || depth == 3 || (depth == 5 && records >= 0 && records <= kRecordsMax);
 }
 
 // Cells of a table, or key records of depth 5.
@@ -95,7 +99,7 @@ void note_groups(const std::int32_t* table, const IndexShape& shape, IndexState&
 
 bool index_fits(std::int16_t depth, std::int16_t alphabet_size, std::int32_t record_count,
                 std::int32_t index_offset, std::uint64_t file_length) {
-  if (!is_known(depth, alphabet_size) || record_count < 0 || index_offset < 0) return false;
+  if (!is_known(depth, alphabet_size, record_count) || index_offset < 0) return false;
   const std::uint64_t entry_size = depth == 5 ? kRecordSize : kCellSize;
   const std::uint64_t size = entry_count(depth, alphabet_size, record_count) * entry_size;
   return static_cast<std::uint64_t>(index_offset) + size <= file_length;
@@ -152,7 +156,7 @@ int CDicIndex::Init(std::int16_t access_mode, const char* language, const char* 
   alphabet_size_ = alphabet_size;
   depth_ = depth;
   index_offset_ = index_offset;
-  if (!kz::is_known(depth, alphabet_size) || record_count < 0) return 0;
+  if (!kz::is_known(depth, alphabet_size, record_count)) return 0;
 
   const std::size_t entries = kz::entry_count(depth, alphabet_size, record_count);
   state_ = new (std::nothrow) kz::IndexState(language_[0], *kz::find_alphabet(alphabet_size));

@@ -21,8 +21,8 @@ struct KeyRecord {
 };
 
 // True when the file has room for such an index at `index_offset`: a known depth and alphabet, a
-// record count that is not negative, and an image inside the file. To be asked before Init, which
-// allocates what it is told.
+// record count that is not negative (asked at depth 5 alone), and an image inside the file. To be
+// asked before Init, which allocates what it is told.
 bool index_fits(std::int16_t depth, std::int16_t alphabet_size, std::int32_t record_count,
                 std::int32_t index_offset, std::uint64_t file_length);
 

@@ -8,6 +8,16 @@ namespace {
 
 constexpr char kSeparator = '\\';
 
+// Forwards, in as many leaps as there are such characters: most records have one, and a search
+// backwards looks at every character.
+std::size_t last_of(std::string_view text, char c) {
+  std::size_t last = std::string_view::npos;
+  for (std::size_t at = text.find(c); at != std::string_view::npos; at = text.find(c, at + 1)) {
+    last = at;
+  }
+  return last;
+}
+
 void copy_text(std::string_view text, char* output) {
   if (output != nullptr) output[text.copy(output, text.size())] = 0;
 }
@@ -15,7 +25,7 @@ void copy_text(std::string_view text, char* output) {
 }  // namespace
 
 RecordParts::RecordParts(std::string_view record)
-    : headword(record.substr(0, record.rfind(kHeadwordEnd))) {
+    : headword(record.substr(0, last_of(record, kHeadwordEnd))) {
   std::string_view rest = record.substr(headword.size());
   rest.remove_prefix(rest.empty() ? 0 : 1);
   if (rest.empty()) return;

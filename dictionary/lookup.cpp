@@ -28,13 +28,19 @@ const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_
     const TabledRecord* record = s_.headwords.find({word, length});
     if (record != nullptr) return take_tabled(*record, level);
   }
+  const bool searchable = word == nullptr || (length > 0 && length <= HeadwordTable::kWordMax);
+  // A null word has an empty key, which the first record begins with.
+  d_.key_length_ = static_cast<std::int16_t>(searchable ? length : 0);
+  if (word != nullptr && searchable) {
+    // The word may be the text of the entry found last, which goes now.
+    std::memcpy(d_.search_key_, word, length + 1);
+    word = d_.search_key_;
+  }
   s_.found = false;
+  s_.more = false;
   s_.tabled = nullptr;
   set_entry({});
-  // A null word has an empty key, which the first record begins with.
-  if (word != nullptr && (length == 0 || length > HeadwordTable::kWordMax)) return nullptr;
-  d_.key_length_ = static_cast<std::int16_t>(length);
-  if (word != nullptr) std::memcpy(d_.search_key_, word, length + 1);
+  if (!searchable) return nullptr;
 
   const Place place = place_of(word);
   if (place.size <= 0) return nullptr;
@@ -89,9 +95,14 @@ Block* Lookup::block(const Place& place) {
     Block* const kept = s_.blocks.find(place.position, place.size);
     if (kept != nullptr) return kept;
   }
+  const auto size = static_cast<std::uint64_t>(place.size);
+  if (size > s_.memory_left) return nullptr;
   std::unique_ptr<Block> loaded = Block::load(d_.file_, place.position, place.size);
   if (!loaded) return nullptr;
-  return index.has_cache() ? index.put_block(std::move(loaded)) : s_.blocks.put(std::move(loaded));
+  Block* const kept =
+      index.has_cache() ? index.put_block(std::move(loaded)) : s_.blocks.put(std::move(loaded));
+  if (kept != nullptr) s_.memory_left -= size;
+  return kept;
 }
 
 void Lookup::search_in(const Block& block) {
@@ -163,6 +174,7 @@ bool Lookup::take_packed(std::string_view before, const PackedRecord& record) {
 const char* Lookup::take_tabled(const TabledRecord& record, std::int16_t level) {
   s_.tabled = &record;
   s_.found = true;
+  s_.more = true;
   s_.entry_object_behind = true;
   d_.level_ = 0;
   set_entry(s_.packed ? std::string_view() : std::string_view(record.text, record.length));
@@ -184,7 +196,7 @@ void Lookup::catch_up() {
 
 const char* Lookup::find_next(std::int16_t level) {
   set_error(DIC_OK);
-  if (!s_.found) return nullptr;
+  if (!s_.more) return nullptr;
   catch_up();
   bool taken = false;
   if (s_.packed) {
@@ -199,8 +211,9 @@ const char* Lookup::find_next(std::int16_t level) {
 
 const char* Lookup::answer(bool found, std::int16_t level) {
   if (s_.range.failed()) set_error(DIC_ERR_FILE);
-  s_.found = found && !s_.range.failed();
-  if (!s_.found) return nullptr;
+  s_.more = found && !s_.range.failed();
+  if (!s_.more) return nullptr;
+  s_.found = true;
   d_.cursor_ = d_.record_end_;
   d_.remaining_ = s_.range.size() - s_.next;
   d_.level_ = 0;

@@ -18,19 +18,25 @@ namespace kz {
 
 // What a dictionary object keeps beside its documented fields.
 struct SearchState {
-  explicit SearchState(std::size_t memory_max) : headwords(memory_max), texts_max(memory_max) {}
+  explicit SearchState(std::size_t memory_max)
+      : headwords(memory_max), texts_max(memory_max), memory_left(16 * std::uint64_t{memory_max}) {}
 
   bool packed = false;
   bool whole_words = false;  // a packed word list: an exact match ends with the record
   HeadwordTable headwords;
   std::size_t texts_max;  // bytes that the decoded texts of a block may take
   BlockStore blocks;      // those that the index does not keep
+  // Bytes that blocks and decoded texts may still take. Those of a sound dictionary take a few
+  // times its size at most, while a damaged index may have every one of its blocks reach to the
+  // end of the records: the blocks for which nothing is left are read in steps.
+  std::uint64_t memory_left;
 
-  // The range of the latest search, the offset of the next record in it, and whether a record was
-  // found from which a walk can go on.
+  // The range of the latest search, the offset of the next record in it, whether a record was
+  // found, and whether a walk can go on from it.
   RecordRange range;
   std::int32_t next = 0;
   bool found = false;
+  bool more = false;
   const TabledRecord* tabled = nullptr;  // the record found, when the table of headwords knew it
   std::int32_t work_length = 0;          // of the packed record in the work record
   bool entry_object_behind = false;      // the entry object does not show the found entry yet

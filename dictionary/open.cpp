@@ -1,4 +1,5 @@
 // Opening and closing a dictionary object.
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -106,10 +107,10 @@ std::uint16_t Lookup::read_index(std::int16_t mode, const Header& header,
   d_.mode_ = static_cast<std::uint8_t>(mode);
   if (d_.file_.Seek(header.index_offset, 0) != header.index_offset) return DIC_ERR_FORMAT;
   if (const auto code = index.read(d_.file_)) return code;
-  if (header.data_offset <= static_cast<std::uint32_t>(header.index_offset)) {
-    d_.position_ = static_cast<std::int32_t>(header.data_offset);
-    d_.file_.Seek(d_.position_, 0);
-  }
+  // Records that begin behind their end are none.
+  const auto end = static_cast<std::uint32_t>(header.index_offset);
+  d_.position_ = static_cast<std::int32_t>(std::min(header.data_offset, end));
+  d_.file_.Seek(d_.position_, 0);
   return DIC_OK;
 }
 

@@ -10,7 +10,8 @@ namespace kz {
 
 SharedReference find_shared_reference(std::string_view entry, std::uint32_t shared_size) {
   constexpr std::size_t kDigitsMax = 10;
-  const std::string_view body = split_entry(entry).body;
+  const EntryParts parts = split_entry(entry);
+  const std::string_view body = parts.body;
   const std::string_view digits = body.substr(0, kDigitsMax);
   std::uint64_t offset = 0;
   const auto [end, error] =
@@ -19,9 +20,12 @@ SharedReference find_shared_reference(std::string_view entry, std::uint32_t shar
   const auto length = static_cast<std::size_t>(end - digits.data());
   if (length < body.size() && body[length] != '\\') return {};
   if (offset >= shared_size) return {};
-  return {static_cast<std::uint32_t>(offset),
-          static_cast<std::uint16_t>(body.data() - entry.data()),
-          static_cast<std::uint16_t>(body.size())};
+  const auto start = static_cast<std::size_t>(body.data() - entry.data());
+  // A source mark without a text is not given back when an entry is joined.
+  const bool ends_entry = parts.src_ref.empty() && parts.src_word.empty();
+  const std::size_t replaced = ends_entry ? entry.size() - start : body.size();
+  return {static_cast<std::uint32_t>(offset), static_cast<std::uint16_t>(start),
+          static_cast<std::uint16_t>(replaced)};
 }
 
 }  // namespace kz

@@ -7,13 +7,14 @@
 
 namespace kz {
 
-// Where in an entry a reference to shared text stands: the body, when it is a number.
+// Where in an entry a reference to shared text stands: the body, when it is a number, with a lone
+// source mark behind it.
 struct SharedReference {
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
-  std::uint32_t offset = kNone;  // in the shared text
-  std::uint16_t body = 0;        // offset of the body in the entry
-  std::uint16_t body_length = 0;
+  std::uint32_t offset = kNone;   // in the shared text
+  std::uint16_t body = 0;         // offset of the body in the entry
+  std::uint16_t body_length = 0;  // characters that the shared text replaces
 
   explicit operator bool() const { return offset != kNone; }
 };

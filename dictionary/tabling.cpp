@@ -109,9 +109,10 @@ bool Lookup::enter_packed(Block& block) {
                follows(search_text(previous, whole), search_text(text, whole),
                        static_cast<std::size_t>(record.count), whole);
       });
-  if (!in_order || size > s_.texts_max) return false;
+  if (!in_order || size > s_.texts_max || size > s_.memory_left) return false;
   block.texts.reset(new (std::nothrow) char[size]);
   if (!block.texts) return false;
+  s_.memory_left -= size;
 
   char* end = block.texts.get();
   return walk_packed(block.bytes(), [&](const PackedRecord& packed, std::string_view text, auto) {

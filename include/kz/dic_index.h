@@ -129,8 +129,8 @@ class KZ_API CDicIndex {
   // dictionary: 2 and 4 ask for a block cache. `language` and `type` are the header's texts.
   // `alphabet_size` is 26, 32 or 43, `depth` 2, 3 or 5; the 16-bit argument between them has no
   // effect. `index_offset` is the end of the record area, `record_count` the number of key records
-  // of depth 5. Returns 1, or 0 when the table cannot be allocated or no such index exists; when
-  // only the block cache cannot be allocated, the index works without it.
+  // (depth 5 only). Returns 1, or 0 when the table cannot be allocated or no such index exists;
+  // when only the block cache cannot be allocated, the index works without it.
   int Init(int16_t access_mode, const char* language, const char* type, int16_t alphabet_size,
            int16_t unused, int16_t depth, uint16_t format_version, int32_t index_offset,
            int32_t record_count);

@@ -51,11 +51,13 @@ KZ_API void DicClose(CDic* dictionary);
  * characters, or one whose beginning the index does not know (capitals, for instance) finds
  * nothing. Returns the entry, zero-terminated, at most DIC_ENTRY_ROOM bytes (a longer one is cut);
  * it lives in the dictionary until the next search or DicFindNext. Returns null when nothing was
- * found; the error variable is then 0, or 195 when the file could not be read. */
+ * found; the error variable is then 0, 195 when the file could not be read, or 196 when there is no
+ * memory for the shared text. A null handle finds nothing and leaves the error variable alone. */
 KZ_API const char* DicFind(CDic* dictionary, const char* word, int16_t search_mode, int16_t level);
 
 /* The record behind the one found last, decoded to the level; null at the end of the block that
- * the search covered. Returns and errors as DicFind. */
+ * the search covered, behind which the record found last stays the one that DicGetFound gives.
+ * Returns and errors as DicFind. */
 KZ_API const char* DicFindNext(CDic* dictionary, int16_t level);
 
 /* The entry found last, decoded to the level if that asks for more than has been decoded yet;
@@ -72,8 +74,9 @@ KZ_API int16_t DicGetEntry(CDic* dictionary, char* buffer, int16_t search_mode);
 /* DicOpen in mode 0, DicGetEntry, DicClose. Returns 0, the code of the failed open, or 204. */
 KZ_API int16_t DicOpenGetEntry(const char* path, char* buffer, int16_t search_mode);
 
-/* The dictionary's own entry object, in the language of the dictionary; it belongs to the
- * dictionary, which uses it to resolve shared text. Null for a null handle. */
+/* The dictionary's own entry object, in the language of the dictionary. The first call after a
+ * search or DicFindNext splits the entry found, at the level it has then, into the object: ask anew
+ * after each of them. It belongs to the dictionary. Null for a null handle. */
 KZ_API CDicEntry* DicGetEntryHandler(CDic* dictionary);
 
 /* The path given to DicOpen, valid until the dictionary is closed; null for a null handle. */

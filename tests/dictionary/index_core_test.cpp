@@ -412,6 +412,7 @@ TEST(DamagedIndex, MustFitTheFileBeforeAnythingIsAllocated) {
   EXPECT_FALSE(kz::index_fits(5, 32, 11, 200, 280));
   EXPECT_FALSE(kz::index_fits(5, 32, 0x7FFFFFFF, 200, 0xFFFFFFFF));
   EXPECT_FALSE(kz::index_fits(5, 32, -1, 200, 280));
+  EXPECT_TRUE(kz::index_fits(2, 26, -1, 154, 154 + 2808)) << "a table has no key records";
   EXPECT_FALSE(kz::index_fits(2, 26, 0, -1, 1 << 20));
   EXPECT_FALSE(kz::index_fits(4, 26, 0, 154, 1 << 20));
   EXPECT_FALSE(kz::index_fits(2, 27, 0, 154, 1 << 20));

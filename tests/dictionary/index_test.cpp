@@ -252,6 +252,8 @@ TEST(IndexImage, UnknownShapesAreRefused) {
     EXPECT_EQ(index.Init(0, "EN", "C", size, 0, 2, 0, 0, 0), 0) << size;
   }
   EXPECT_EQ(index.Init(0, "RU", "C", 32, 0, 5, 0, 0, -1), 0);
+  EXPECT_EQ(index.Init(0, "RU", "C", 32, 0, 5, 0, 0, INT32_MAX), 0);
+  EXPECT_EQ(index.Init(0, "RU", "C", 32, 0, 2, 0, 0, -1), 1) << "no key records";
 }
 
 TEST(IndexImage, AFailedWriteIsReported) {

@@ -1,6 +1,8 @@
 // Searches in dictionaries of every form, held against a slow reader of the same files.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <random>
 #include <set>
@@ -267,6 +269,45 @@ TEST(Lookup, AnyDamageToHeaderOrLengthIsRefusedOrSurvived) {
   }
 }
 
+TEST(Lookup, OverlappingBlocksTakeNoMoreMemoryThanAFewTimesTheFile) {
+  // Positions that fall from cell to cell: most blocks reach far behind their neighbours.
+  constexpr std::size_t kRecords = 60000;
+  DictionaryFile file;
+  file.language = "DERU";
+  file.alphabet_size = 43;
+  file.depth = 3;
+  std::string bytes = file.bytes().substr(0, 154) + std::string(kRecords, '\n');
+  const auto put = [&bytes](std::size_t at, std::size_t value) {
+    for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> 8 * i);
+  };
+  put(119, bytes.size());
+  constexpr std::size_t kCells = 43 * 44 * 44;
+  bytes.resize(bytes.size() + kCells * 4);
+  for (std::size_t i = 0; i < kCells; ++i) {
+    put(154 + kRecords + 4 * i, 154 + (kCells - i) % kRecords);
+  }
+  const TempDir dir;
+  const std::string path = dir.file("d.dic");
+  std::ofstream(path, std::ios::binary) << bytes;
+  const Dictionary dictionary(DicOpen(path.c_str(), 2));
+  ASSERT_NE(dictionary, nullptr);
+  LoadAllOffsets(dictionary.get());
+
+  // Without the file, searches in the blocks in memory still work.
+  std::filesystem::resize_file(path, 154);
+  std::size_t in_memory = 0;
+  for (const char first : alphabet(43)) {
+    for (const char second : alphabet(43)) {
+      const std::string word = {first, second, 'b'};
+      EXPECT_EQ(DicFind(dictionary.get(), word.c_str(), 0, 2), nullptr);
+      if (kz_dict_dic_errno() != DIC_OK) continue;
+      in_memory += static_cast<std::size_t>(DicSizeX(dictionary.get(), word.c_str()));
+    }
+  }
+  EXPECT_GT(in_memory, 0u);
+  EXPECT_LT(in_memory, 32 * bytes.size());
+}
+
 class SmallDictionary : public ::testing::Test {
  protected:
   // Opens a dictionary with these records, and two texts in its shared block.
@@ -293,6 +334,12 @@ TEST_F(SmallDictionary, LevelsDecodeAsFarAsAsked) {
   EXPECT_STREQ(DicGetFound(dictionary, nullptr, -1), "table*Nsecond\\\\Table");
   EXPECT_STREQ(DicFind(dictionary, "table", 0, 1), "table*N6\\\\Table");
 
+  // The end of a walk leaves the record found last.
+  EXPECT_STREQ(DicFind(dictionary, "table", 0, 0), "");
+  EXPECT_EQ(DicFindNext(dictionary, 0), nullptr);
+  EXPECT_STREQ(DicGetFound(dictionary, nullptr, 2), "table*Nsecond\\\\Table");
+  EXPECT_EQ(DicFindNext(dictionary, 0), nullptr);
+
   dictionary = open(2, {{"table", "N0"}});
   EXPECT_STREQ(DicFind(dictionary, "table", 0, 0), "table*N0");
   char copy[DIC_ENTRY_ROOM];
@@ -310,7 +357,8 @@ TEST_F(SmallDictionary, OnlyANumberInsideTheSharedTextIsAReference) {
                               {"ag", "Nc"},
                               {"ah", "N00000006"},
                               {"ai", "N[6]6"},
-                              {"aj", "$6\\7"}});
+                              {"aj", "$6\\7"},
+                              {"ak", "N6\\"}});
   for (const char* kept : {"aa*N6x", "ab*N-6", "ac*N 6", "ad*N0x6", "ae*N00000000006", "af*Nd"}) {
     const std::string word(kept, 2);
     EXPECT_STREQ(DicFind(dictionary, word.c_str(), 0, 2), kept);
@@ -319,6 +367,9 @@ TEST_F(SmallDictionary, OnlyANumberInsideTheSharedTextIsAReference) {
   EXPECT_STREQ(DicFind(dictionary, "ah", 0, 2), "ah*Nsecond");
   EXPECT_STREQ(DicFind(dictionary, "ai", 0, 2), "ai*N[6]second");
   EXPECT_STREQ(DicFind(dictionary, "aj", 0, 2), "aj*$second");
+  for (int time = 0; time < 3; ++time) {  // read from the block, then from the table of headwords
+    EXPECT_STREQ(DicFind(dictionary, "ak", 0, 2), "ak*Nsecond");
+  }
 }
 
 TEST_F(SmallDictionary, TheEntryObjectShowsTheFoundEntry) {
@@ -351,6 +402,12 @@ TEST_F(SmallDictionary, WordsThatCannotBeSearchedFindNothing) {
   EXPECT_EQ(DicFind(dictionary, "", 0, 2), nullptr);
   EXPECT_EQ(DicFindNext(dictionary, 2), nullptr);  // nothing to go on from
   EXPECT_STREQ(DicGetFound(dictionary, nullptr, 2), "");
+}
+
+TEST_F(SmallDictionary, TheWordMayBeTheEntryFoundLast) {
+  CDic* dictionary = open(0, {{"word", "N1"}});
+  const char* entry = DicFind(dictionary, "word", 0, 2);
+  EXPECT_STREQ(DicFind(dictionary, entry, 1, 2), "word*N1");
 }
 
 TEST_F(SmallDictionary, ErrorsAreLeftInTheErrorVariable) {
@@ -398,6 +455,15 @@ TEST_F(SmallDictionary, ModeOneReadsFromTheCurrentBlockWithoutTheIndex) {
   EXPECT_STREQ(DicFind(dictionary, "zeta", 0, 2), "zeta*N3");
   EXPECT_STREQ(DicFind(dictionary, "alpha", 0, 2), "alpha*N1");
   EXPECT_STREQ(DicFindNext(dictionary, 2), "beta*N2");
+
+  // A first record behind the end of the records is none.
+  std::fstream(path(), std::ios::in | std::ios::out | std::ios::binary)
+      .seekp(123)
+      .write("\0\0\1", 4);
+  dictionary_.reset(DicOpen(path().c_str(), 1));
+  ASSERT_NE(dictionary_, nullptr);
+  EXPECT_EQ(DicFind(dictionary_.get(), "alpha", 0, 2), nullptr);
+  EXPECT_EQ(DicFind(dictionary_.get(), nullptr, 0, 2), nullptr);
 }
 
 TEST_F(SmallDictionary, AccessorsAnswerForMissingHandles) {
