@@ -27,6 +27,8 @@ class Block {
   // cannot.
   enum class Headwords : std::uint8_t { kUnknown, kSearchedOnce, kInTable, kNotInTable };
   Headwords headwords = Headwords::kUnknown;
+  // The block of a letter group in the table has been counted.
+  bool counted = false;
 
   // The decoded texts of packed records that the table of headwords refers to.
   std::unique_ptr<char[]> texts;

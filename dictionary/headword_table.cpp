@@ -57,7 +57,7 @@ const TabledRecord* HeadwordTable::find(std::string_view word) const {
 }
 
 bool HeadwordTable::add(const TabledRecord& record) {
-  if ((records_.size() + 1) * 4 > slots_.size() * 3 && !grow()) return false;
+  if ((records_.size() + 1) * 2 > slots_.size() && !grow()) return false;
   const std::uint32_t hash = hash_of(headword(record));
   Slot& slot = slots_[slot_of(headword(record), hash)];
   if (slot.record != 0) return true;
@@ -66,10 +66,11 @@ bool HeadwordTable::add(const TabledRecord& record) {
   return true;
 }
 
-// Twice the slots, and room for the records that they can take.
+// Twice the slots, and room for the records that they can take: half of them stay empty, so that a
+// headword that is not there shows at once.
 bool HeadwordTable::grow() {
   const std::size_t size = slots_.empty() ? kFirstSlots : slots_.size() * 2;
-  const std::size_t records = size / 4 * 3;
+  const std::size_t records = size / 2;
   if (std::max(size * sizeof(Slot), records * sizeof(TabledRecord)) > memory_max_) return false;
   try {
     records_.reserve(records);

@@ -77,6 +77,14 @@ class IndexCore {
     }
   }
 
+  // A letter group: the found group is one of words that begin with as many letters as the index
+  // tells apart, where a group head has other words too. At depth 5 every group counts as one.
+  bool at_letter_group() const;
+  // How many of them there are.
+  std::size_t count_letter_groups();
+  // The word is looked up in a letter group, if at all.
+  bool in_letter_group(const char* word) const;
+
   // The first three letters of the found group, blanks for none.
   void group_letters(char (&letters)[3]) const;
 

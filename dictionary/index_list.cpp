@@ -49,6 +49,26 @@ bool IndexCore::select_record(std::int32_t from) {
   return false;
 }
 
+bool IndexCore::at_letter_group() const {
+  const std::int16_t n = x_.alphabet_size_;
+  return x_.depth_ == 5 || (x_.slots_[1] != n && (x_.depth_ == 2 || x_.slots_[2] != n));
+}
+
+std::size_t IndexCore::count_letter_groups() {
+  std::size_t count = 0;
+  for (bool found = select_first(); found; found = select_next()) count += at_letter_group();
+  return count;
+}
+
+bool IndexCore::in_letter_group(const char* word) const {
+  if (x_.depth_ == 5) return true;
+  const Alphabet& alphabet = x_.state_->alphabet;
+  for (int i = 0; i < x_.depth_; ++i) {
+    if (alphabet.slot(word[i]) == alphabet.size) return false;  // so is the end of the word
+  }
+  return true;
+}
+
 void IndexCore::group_letters(char (&letters)[3]) const {
   std::memset(letters, ' ', sizeof letters);
   if (x_.depth_ == 5) {

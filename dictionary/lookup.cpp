@@ -40,7 +40,7 @@ const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_
   s_.more = false;
   s_.tabled = nullptr;
   set_entry({});
-  if (!searchable) return nullptr;
+  if (!searchable || (by_headword && table_knows_all_like(word))) return nullptr;
 
   const Place place = place_of(word);
   if (place.size <= 0) return nullptr;
@@ -52,8 +52,13 @@ const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_
   }
   search_in(*block);
   if (by_headword && key_is_headword()) {
-    if (block->headwords == Block::Headwords::kInTable) return nullptr;
+    if (block->headwords == Block::Headwords::kInTable) {
+      count_in_table(*block);
+      return nullptr;
+    }
     if (enter_headwords(*block)) {
+      place_of(word);  // entering has asked the index for other words
+      count_in_table(*block);
       const TabledRecord* record = s_.headwords.find(key());
       return record != nullptr ? take_tabled(*record, level) : nullptr;
     }

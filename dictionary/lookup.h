@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "dictionary/block.h"
@@ -24,6 +25,8 @@ struct SearchState {
   bool packed = false;
   bool whole_words = false;  // a packed word list: an exact match ends with the record
   HeadwordTable headwords;
+  // Letter groups of the index whose headwords are not in the table, once one of them is.
+  std::optional<std::size_t> groups_not_in_table;
   std::size_t texts_max;  // bytes that the decoded texts of a block may take
   BlockStore blocks;      // those that the index does not keep
   // Bytes that blocks and decoded texts may still take. Those of a sound dictionary take a few
@@ -112,6 +115,8 @@ class Lookup {
 
   bool key_is_headword() const;
   bool enter_headwords(Block& block);
+  void count_in_table(Block& block);
+  bool table_knows_all_like(const char* word) const;
   bool enter_plain(Block& block);
   bool enter_packed(Block& block);
   bool enter(std::string_view word, TabledRecord record);

@@ -65,8 +65,8 @@ bool walk_packed(std::string_view block, Visit visit) {
 // Whether the key can be nothing but a headword. One with a headword end or a line feed in it may
 // also match across them.
 bool Lookup::key_is_headword() const {
-  return s_.whole_words ||
-         std::ranges::none_of(key(), [](char c) { return c == kHeadwordEnd || c == '\n'; });
+  return s_.whole_words || (key().find(kHeadwordEnd) == std::string_view::npos &&
+                            key().find('\n') == std::string_view::npos);
 }
 
 // True when the headwords of the block are in the table since this call.
@@ -79,6 +79,22 @@ bool Lookup::enter_headwords(Block& block) {
     return entered;
   }
   return false;
+}
+
+// Takes down that the letter group that the index is at has its headwords in the table.
+void Lookup::count_in_table(Block& block) {
+  IndexCore index(d_.index_);
+  if (block.counted || !index.at_letter_group()) return;
+  block.counted = true;
+  if (!s_.groups_not_in_table) s_.groups_not_in_table = index.count_letter_groups();
+  --*s_.groups_not_in_table;
+}
+
+// A word that the table does not have is not in the dictionary, when all blocks in which words that
+// begin like it could be are in the table.
+bool Lookup::table_knows_all_like(const char* word) const {
+  return s_.groups_not_in_table == std::size_t{0} && key_is_headword() &&
+         IndexCore(d_.index_).in_letter_group(word);
 }
 
 bool Lookup::enter_plain(Block& block) {
