@@ -14,12 +14,12 @@ namespace platform = kz::platform;
 
 namespace {
 
-constexpr unsigned read_flag_mask = 0x0003;
-constexpr unsigned not_inherited_flag = 0x0080;
-constexpr unsigned create_flag = 0x1000;
-constexpr unsigned keep_flag = 0x2000;
+constexpr unsigned kAccessMask = 0x0003;
+constexpr unsigned kNotInherited = 0x0080;
+constexpr unsigned kCreate = 0x1000;
+constexpr unsigned kKeepContents = 0x2000;
 
-constexpr std::uint32_t no_position = std::numeric_limits<std::uint32_t>::max();
+constexpr std::uint32_t kNoPosition = std::numeric_limits<std::uint32_t>::max();
 
 struct Sharing {
   bool read;
@@ -27,47 +27,47 @@ struct Sharing {
 };
 
 // By bits 4 to 6 of the flags.
-constexpr std::array<Sharing, 8> sharing_table = {{{false, false},
-                                                   {false, false},
-                                                   {true, false},
-                                                   {false, true},
-                                                   {true, true},
-                                                   {true, false},
-                                                   {true, false},
-                                                   {true, false}}};
+constexpr std::array<Sharing, 8> kSharing = {{{false, false},
+                                              {false, false},
+                                              {true, false},
+                                              {false, true},
+                                              {true, true},
+                                              {true, false},
+                                              {true, false},
+                                              {true, false}}};
 
 platform::OpenMode mode_of(unsigned flags) {
-  const unsigned access = flags & read_flag_mask;
-  const Sharing sharing = sharing_table[(flags >> 4) & 7];
+  const unsigned access = flags & kAccessMask;
+  const Sharing sharing = kSharing[(flags >> 4) & 7];
   platform::OpenMode mode;
   mode.read = access != 1;
   mode.write = access == 1 || access == 2;
   mode.others_may_read = sharing.read;
   mode.others_may_write = sharing.write;
-  mode.inherit = (flags & not_inherited_flag) == 0;
-  if ((flags & create_flag) != 0)
-    mode.creation = (flags & keep_flag) != 0 ? platform::Creation::open_or_create
-                                             : platform::Creation::create_truncated;
+  mode.inherit = (flags & kNotInherited) == 0;
+  if ((flags & kCreate) != 0)
+    mode.creation = (flags & kKeepContents) != 0 ? platform::Creation::open_or_create
+                                                 : platform::Creation::create_truncated;
   return mode;
 }
 
 // A position as the interface tells it.
 std::uint32_t position_or_failure(std::int64_t position) {
-  if (position >= 0 && position < no_position) return static_cast<std::uint32_t>(position);
+  if (position >= 0 && position < kNoPosition) return static_cast<std::uint32_t>(position);
   if (position >= 0) errno = EOVERFLOW;
-  return no_position;
+  return kNoPosition;
 }
 
 }  // namespace
 
-ZCFile::ZCFile() : ZCFile(platform::no_file) {}
+ZCFile::ZCFile() : ZCFile(platform::kNoFile) {}
 
 ZCFile::ZCFile(int handle) : handle_(handle), close_on_delete_(0) {}
 
 ZCFile::ZCFile(const char* name, unsigned int flags) : ZCFile() { ZCFile::Open(name, flags); }
 
 ZCFile::~ZCFile() {
-  if (handle_ != platform::no_file && close_on_delete_ != 0) ZCFile::Close();
+  if (handle_ != platform::kNoFile && close_on_delete_ != 0) ZCFile::Close();
 }
 
 ZCFile::operator int() const { return handle_; }
@@ -75,17 +75,17 @@ ZCFile::operator int() const { return handle_; }
 int ZCFile::Open(const char* name, unsigned int flags) {
   if (name == nullptr) name = "";
   close_on_delete_ = 0;
-  handle_ = platform::no_file;
+  handle_ = platform::kNoFile;
   path_ = kz::full_path(name).text;
   handle_ = platform::open_file(name, mode_of(flags));
-  if (handle_ == platform::no_file) return 0;
+  if (handle_ == platform::kNoFile) return 0;
   close_on_delete_ = 1;
   return 1;
 }
 
 ZCFile* ZCFile::Duplicate() {
   const int copy = platform::duplicate(handle_);
-  if (copy == platform::no_file) return nullptr;
+  if (copy == platform::kNoFile) return nullptr;
   ZCFile* const file = new (std::nothrow) ZCFile(copy);
   if (file == nullptr) {
     platform::close_file(copy);
@@ -101,13 +101,13 @@ void ZCFile::Close() {
 }
 
 void ZCFile::Abort() {
-  if (handle_ != platform::no_file) platform::close_file(handle_);
-  handle_ = platform::no_file;
+  if (handle_ != platform::kNoFile) platform::close_file(handle_);
+  handle_ = platform::kNoFile;
   path_.Empty();
 }
 
 void ZCFile::Flush() {
-  if (handle_ != platform::no_file) platform::flush(handle_);
+  if (handle_ != platform::kNoFile) platform::flush(handle_);
 }
 
 std::int32_t ZCFile::Seek(std::int32_t offset, unsigned int origin) {
@@ -122,7 +122,7 @@ std::int32_t ZCFile::Seek(std::int32_t offset, unsigned int origin) {
   target += offset;
   if (target < 0) errno = EINVAL;
   const std::uint32_t position = position_or_failure(target);
-  if (position == no_position || !platform::set_position(handle_, position)) return -1;
+  if (position == kNoPosition || !platform::set_position(handle_, position)) return -1;
   return static_cast<std::int32_t>(position);
 }
 

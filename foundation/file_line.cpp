@@ -104,13 +104,13 @@ std::size_t without_return(const char* line, std::size_t size) {
 }
 
 // The room for a line grows in steps of this many characters.
-constexpr std::size_t line_step = 128;
-constexpr std::int64_t longest_line = std::numeric_limits<std::int32_t>::max() - 2 * 128;
+constexpr std::size_t kLineStep = 128;
+constexpr std::int64_t kLongestLine = std::numeric_limits<std::int32_t>::max() - 2 * 128;
 
 // A writable buffer for a line of `size` characters.
 char* reserve(ZCString& line, std::size_t size) {
-  const std::size_t steps = size <= line_step ? 1 : (size + line_step - 1) / line_step;
-  return line.GetBuffer(static_cast<int>(steps * line_step));
+  const std::size_t steps = size <= kLineStep ? 1 : (size + kLineStep - 1) / kLineStep;
+  return line.GetBuffer(static_cast<int>(steps * kLineStep));
 }
 
 char* finish(ZCString& line, char* characters, std::size_t size, const Line& read) {
@@ -126,16 +126,16 @@ char* ZCFile::ReadString(ZCString& line) {
   if (!platform::is_regular(handle_)) {
     std::string text;
     const Line read =
-        read_bytes(handle_, longest_line, [&text](std::int64_t, char ch) { text += ch; });
+        read_bytes(handle_, kLongestLine, [&text](std::int64_t, char ch) noexcept { text += ch; });
     if (read.taken == 0) return nullptr;
     char* const characters = reserve(line, text.size());
     text.copy(characters, text.size());
     return finish(line, characters, text.size(), read);
   }
   LineScanner scanner(handle_);
-  const Line found = scanner.scan(longest_line);
+  const Line found = scanner.scan(kLongestLine);
   if (found.taken == 0) return nullptr;
-  if (found.size == longest_line) {
+  if (found.size == kLongestLine) {
     errno = EOVERFLOW;
     return nullptr;
   }

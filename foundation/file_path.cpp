@@ -17,25 +17,25 @@ ZCString string_of(std::string_view text, std::size_t limit) {
 
 }  // namespace
 
-kz::FullPath kz::full_path(const char* name) {
+kz::FullPath kz::full_path(const char* name) noexcept {
   const std::optional<std::string> path = platform::absolute_path(name);
-  if (path && path->size() < path_room) return {string_of(*path, path_room - 1), true};
+  if (path && path->size() < kPathRoom) return {string_of(*path, kPathRoom - 1), true};
   if (path) errno = ENAMETOOLONG;
-  return {string_of(name, path_room - 1), false};
+  return {string_of(name, kPathRoom - 1), false};
 }
 
-ZCString ZCFile::GetFilePath() { return path_.Left(kz::path_room - 1); }
+ZCString ZCFile::GetFilePath() { return path_.Left(kz::kPathRoom - 1); }
 
 void ZCFile::SetFilePath(const char* path) { path_ = path; }
 
 ZCString ZCFile::GetFileName() {
-  const ZCString path = GetFilePath();
+  const ZCString path = ZCFile::GetFilePath();
   std::string_view name(path, static_cast<std::size_t>(path.GetLength()));
   name.remove_prefix(name.find_last_of("\\/:") + 1);
   return string_of(name, 256);
 }
 
-ZCString ZCFile::GetFileTitle() { return GetFileName(); }
+ZCString ZCFile::GetFileTitle() { return ZCFile::GetFileName(); }
 
 ZCString ZCFile::GetExt(const char* name) const {
   const std::string_view text = name != nullptr ? name : "";

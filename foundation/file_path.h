@@ -9,14 +9,14 @@
 namespace kz {
 
 // Room for a path, with its terminating zero.
-inline constexpr int path_room = 260;
+inline constexpr int kPathRoom = 260;
 
 struct FullPath {
-  ZCString text;  // fits path_room; on failure the name itself, cut to fit
+  ZCString text;  // fits kPathRoom; on failure the name itself, cut to fit
   bool ok;
 };
 
-FullPath full_path(const char* name);
+FullPath full_path(const char* name) noexcept;
 
 }  // namespace kz
 

@@ -40,7 +40,7 @@ std::optional<std::int64_t> time_to_set(const ZCTime& time) {
 void set_times(const char* name, const ZCFileStatus& status) {
   const int handle = platform::open_file(
       name, {.read = true, .write = true, .others_may_read = true, .inherit = false});
-  if (handle == platform::no_file) return;
+  if (handle == platform::kNoFile) return;
   platform::set_times(handle, time_to_set(status.modification_time),
                       time_to_set(status.access_time));
   platform::close_file(handle);
@@ -57,7 +57,7 @@ int ZCFile::GetStatus(ZCFileStatus& status) const {
   status.attribute = 0;
   std::fill(std::begin(status.full_name), std::end(status.full_name), '\0');
   store_name(status, {path_, static_cast<std::size_t>(path_.GetLength())});
-  if (handle_ == platform::no_file) return 1;
+  if (handle_ == platform::kNoFile) return 1;
   platform::FileInfo info;
   if (!platform::info_of(handle_, info)) return 0;
   store_info(status, info);
@@ -68,13 +68,13 @@ int ZCFile::GetStatus(ZCFileStatus& status) const {
 
 int ZCFile::GetStatus(const char* name, ZCFileStatus& status) const {
   const kz::FullPath path = kz::full_path(text_of(name));
-  store_name(status, path.ok ? std::string_view(path.text) : std::string_view());
+  store_name(status, path.ok ? static_cast<const char*>(path.text) : "");
   if (!path.ok) return 0;
   platform::FileInfo info;
   const auto attributes = platform::attributes(text_of(name));
   if (!attributes || !platform::info_of(text_of(name), info)) return 0;
   store_info(status, info);
-  status.attribute = static_cast<std::uint8_t>(*attributes & ~platform::attribute_normal);
+  status.attribute = static_cast<std::uint8_t>(*attributes & ~platform::kAttributeNormal);
   return 1;
 }
 
@@ -83,7 +83,7 @@ void ZCFile::SetStatus(const char* name, const ZCFileStatus& status) {
   const auto current = platform::attributes(name);
   if (!current) return;
   const bool differs = *current != status.attribute;
-  const bool read_only = (*current & platform::attribute_read_only) != 0;
+  const bool read_only = (*current & platform::kAttributeReadOnly) != 0;
   if (differs && read_only) platform::set_attributes(name, status.attribute);
   if (status.modification_time.GetTime() != 0) set_times(name, status);
   if (differs && !read_only) platform::set_attributes(name, status.attribute);
@@ -111,9 +111,9 @@ int ZCFile::IsEmpty(const char* name) const {
 }
 
 int ZCFile::IsFileExist(const char* name) const {
-  if (handle_ != platform::no_file) return 1;
+  if (handle_ != platform::kNoFile) return 1;
   const int handle = platform::open_file(text_of(name), {.read = true});
-  if (handle == platform::no_file) return 0;
+  if (handle == platform::kNoFile) return 0;
   platform::close_file(handle);
   return 1;
 }

@@ -140,6 +140,10 @@ struct MapCore {
 
 using kz::MapCore;
 
+namespace {
+const char* text_of(const char* key) { return key != nullptr ? key : ""; }
+}  // namespace
+
 ZCMapStringToOb::ZCMapStringToOb() = default;
 ZCMapStringToOb::ZCMapStringToOb(int blockSize) : blockSize_(std::max(blockSize, 1)) {}
 ZCMapStringToOb::~ZCMapStringToOb() { MapCore::remove_all(*this); }
@@ -157,31 +161,31 @@ void ZCMapStringToOb::InitHashTable(unsigned int size, int allocateNow) {
 
 unsigned int ZCMapStringToOb::HashKey(const char* key) const {
   std::uint32_t hash = 0;
-  for (; *key != '\0'; ++key) hash = hash * 33 + static_cast<unsigned char>(*key);
+  for (key = text_of(key); *key != '\0'; ++key) hash = hash * 33 + static_cast<unsigned char>(*key);
   return hash;
 }
 
 int ZCMapStringToOb::Lookup(const char* key, ZCObject*& value) const {
-  const Association* found = MapCore::find(*this, key);
+  const Association* found = MapCore::find(*this, text_of(key));
   if (found == nullptr) return 0;
   value = found->value;
   return 1;
 }
 
 int ZCMapStringToOb::LookupKey(const char* key, const char*& storedKey) const {
-  const Association* found = MapCore::find(*this, key);
+  const Association* found = MapCore::find(*this, text_of(key));
   if (found == nullptr) return 0;
   storedKey = found->key;
   return 1;
 }
 
 ZCObject*& ZCMapStringToOb::operator[](const char* key) {
-  return MapCore::find_or_add(*this, key).value;
+  return MapCore::find_or_add(*this, text_of(key)).value;
 }
 
 void ZCMapStringToOb::SetAt(const char* key, ZCObject* value) { (*this)[key] = value; }
 
-int ZCMapStringToOb::RemoveKey(const char* key) { return MapCore::remove(*this, key); }
+int ZCMapStringToOb::RemoveKey(const char* key) { return MapCore::remove(*this, text_of(key)); }
 void ZCMapStringToOb::RemoveAll() { MapCore::remove_all(*this); }
 
 POSITION ZCMapStringToOb::GetStartPosition() const {
@@ -189,10 +193,10 @@ POSITION ZCMapStringToOb::GetStartPosition() const {
 }
 
 void ZCMapStringToOb::GetNextAssoc(POSITION& position, ZCString& key, ZCObject*& value) const {
-  Association* at = position == MapCore::before_start() ? MapCore::head_from(*this, 0)
-                                                        : MapCore::association_at(position);
+  const bool at_start = position == MapCore::before_start();
+  Association* at = at_start ? MapCore::head_from(*this, 0) : MapCore::association_at(position);
   position = nullptr;
-  if (at == nullptr) return;
+  if (at == nullptr || count_ == 0) return;
   position = MapCore::position_of(MapCore::next(*this, *at));
   key = at->key;
   value = at->value;

@@ -13,32 +13,32 @@ using kz::platform::Zone;
 
 namespace {
 
-constexpr int first_year = 1900;
+constexpr int kFirstYear = 1900;
 
 std::int32_t count_of(const CalendarTime& local, int daylight_saving) {
   if (const auto moment = kz::platform::moment(local, daylight_saving)) return saturated(*moment);
-  return local.year < first_year ? std::numeric_limits<std::int32_t>::min()
+  return local.year < kFirstYear ? std::numeric_limits<std::int32_t>::min()
                                  : std::numeric_limits<std::int32_t>::max();
 }
 
 std::int32_t count_of_record(const CalendarTime& local, int daylight_saving) {
-  return local.year < first_year ? 0 : count_of(local, daylight_saving);
+  return local.year < kFirstYear ? 0 : count_of(local, daylight_saving);
 }
 
 // A file time in seconds since 1970, fractions dropped.
 std::int64_t seconds_of(const FILETIME& time) {
-  constexpr std::uint64_t ticks_per_second = 10'000'000;
-  constexpr std::int64_t from_1601_to_1970 = 11'644'473'600;
+  constexpr std::uint64_t kTicksPerSecond = 10'000'000;
+  constexpr std::int64_t kFrom1601To1970 = 11'644'473'600;
   const std::uint64_t ticks = std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime;
-  return static_cast<std::int64_t>(ticks / ticks_per_second) - from_1601_to_1970;
+  return static_cast<std::int64_t>(ticks / kTicksPerSecond) - kFrom1601To1970;
 }
 
 std::int32_t count_of_file_time(const FILETIME& time, int daylight_saving) {
-  constexpr std::uint32_t invalid = 0x80000000;
-  if ((time.dwHighDateTime & invalid) != 0) return 0;
+  constexpr std::uint32_t kInvalid = 0x80000000;
+  if ((time.dwHighDateTime & kInvalid) != 0) return 0;
   const std::int64_t seconds = seconds_of(time);
   const auto local = kz::platform::calendar(seconds, Zone::local);
-  if (!local || local->year < first_year) return 0;
+  if (!local || local->year < kFirstYear) return 0;
   // The hour that the end of daylight saving repeats has two moments for each of its readings;
   // where the time zone decides, the moment is known without asking the calendar back.
   return daylight_saving < 0 ? saturated(seconds) : count_of(*local, daylight_saving);

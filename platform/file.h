@@ -10,7 +10,7 @@
 
 namespace kz::platform {
 
-inline constexpr int no_file = -1;
+inline constexpr int kNoFile = -1;
 
 enum class Creation {
   open_existing,    // the file must exist

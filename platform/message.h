@@ -6,10 +6,11 @@ namespace kz::platform {
 
 // Shows a message and returns the identifier of the button pressed (1 for OK, the answer when the
 // host has set no handler). Texts are Windows-1251; a null text counts as empty.
-int message_box(const char* text, const char* caption, unsigned int type);
+// An exception of the host's handler ends the process.
+int message_box(const char* text, const char* caption, unsigned int type) noexcept;
 
 // Makes the sound of the given kind; 0 is the plain beep.
-void beep(unsigned int type = 0);
+void beep(unsigned int type = 0) noexcept;
 
 }  // namespace kz::platform
 

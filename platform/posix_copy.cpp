@@ -104,10 +104,10 @@ bool copy_and_rename(int from, const std::string& target, Rename rename_to_targe
 int open_source(const char* name) {
   const int handle =
       open_file(name, {.read = true, .others_may_read = true, .others_may_write = true});
-  if (handle == no_file || is_regular(handle)) return handle;
+  if (handle == kNoFile || is_regular(handle)) return handle;
   close_file(handle);
   errno = EINVAL;
-  return no_file;
+  return kNoFile;
 }
 
 bool are_same(const struct stat& a, const struct stat& b) {
@@ -125,7 +125,7 @@ std::string resolved(const char* target) {
 
 }  // namespace
 
-bool copy_file(const char* from, const char* to) {
+bool copy_file(const char* from, const char* to) noexcept {
   const Handle source(open_source(from));
   struct stat from_status;
   struct stat to_status;
@@ -141,7 +141,7 @@ bool copy_file(const char* from, const char* to) {
   return target.is_open() && copy_and_rename(source.get(), resolved(to), rename_replacing);
 }
 
-bool rename_file(const char* from, const char* to) {
+bool rename_file(const char* from, const char* to) noexcept {
   if (rename_sparing_target(from, to)) return true;
   if (errno != EXDEV) return false;
   const Handle source(open_source(from));

@@ -12,7 +12,7 @@
 namespace kz::platform {
 namespace {
 
-constexpr mode_t any_write_bit = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 
 bool read_info(int directory, const char* name, int flags, FileInfo& info) {
   struct statx status;
@@ -24,7 +24,12 @@ bool read_info(int directory, const char* name, int flags, FileInfo& info) {
   return true;
 }
 
-std::string_view last_part(std::string_view path) { return path.substr(path.rfind('/') + 1); }
+// Whether the last part of a path begins with a dot; the parts "." and ".." are no such names.
+bool is_hidden(std::string_view path) {
+  while (path.ends_with('/')) path.remove_suffix(1);
+  const std::string_view name = path.substr(path.rfind('/') + 1);
+  return name.starts_with('.') && name != "." && name != "..";
+}
 
 struct timespec file_time(std::optional<std::int64_t> seconds) {
   struct timespec time {};
@@ -65,10 +70,10 @@ std::optional<unsigned> attributes(const char* name) {
   struct stat status;
   if (stat(name, &status) != 0) return std::nullopt;
   unsigned bits = 0;
-  if ((status.st_mode & any_write_bit) == 0) bits |= attribute_read_only;
-  if (last_part(name).starts_with('.')) bits |= attribute_hidden;
-  if (S_ISDIR(status.st_mode)) bits |= attribute_directory;
-  return bits != 0 ? bits : attribute_normal;
+  if ((status.st_mode & kAnyWriteBit) == 0) bits |= kAttributeReadOnly;
+  if (is_hidden(name)) bits |= kAttributeHidden;
+  if (S_ISDIR(status.st_mode)) bits |= kAttributeDirectory;
+  return bits != 0 ? bits : kAttributeNormal;
 }
 
 bool set_attributes(const char* name, unsigned attributes) {
@@ -80,9 +85,9 @@ bool set_attributes(const char* name, unsigned attributes) {
     return false;
   }
   mode_t mode = status.st_mode & 07777;
-  if ((attributes & attribute_read_only) != 0)
-    mode &= ~any_write_bit;
-  else if ((mode & any_write_bit) == 0)
+  if ((attributes & kAttributeReadOnly) != 0)
+    mode &= ~kAnyWriteBit;
+  else if ((mode & kAnyWriteBit) == 0)
     mode |= S_IWUSR;
   return chmod(name, mode) == 0;
 }
@@ -95,7 +100,7 @@ bool set_times(int handle, std::optional<std::int64_t> modified,
 
 bool remove_file(const char* name) { return unlink(name) == 0; }
 
-std::optional<std::string> absolute_path(const char* name) {
+std::optional<std::string> absolute_path(const char* name) noexcept {
   const std::string_view given = name;
   if (given.empty()) {
     errno = ENOENT;

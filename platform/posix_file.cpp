@@ -13,15 +13,15 @@
 namespace kz::platform {
 namespace {
 
-constexpr mode_t any_write_bit = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 // Linux moves no more than this in one call.
-constexpr std::size_t largest_transfer = 0x7FFFF000;
+constexpr std::size_t kLargestTransfer = 0x7FFFF000;
 
 // Closes the handle and keeps the error that led to this.
 int give_up(int handle, int error) {
   close(handle);
   errno = error;
-  return no_file;
+  return kNoFile;
 }
 
 int open_retrying(const char* name, int flags) {
@@ -87,7 +87,7 @@ bool change_lock(int handle, short type, std::uint32_t position, std::uint32_t c
 int open_file(const char* name, const OpenMode& mode) {
   bool created = false;
   const int handle = open_raw(name, mode, created);
-  if (handle < 0) return no_file;
+  if (handle < 0) return kNoFile;
   struct stat status;
   if (fstat(handle, &status) != 0) return give_up(handle, errno);
   if (S_ISDIR(status.st_mode)) return give_up(handle, EISDIR);
@@ -99,7 +99,7 @@ int open_file(const char* name, const OpenMode& mode) {
   }
   const bool truncates = mode.creation == Creation::create_truncated && !created;
   // The system itself lets the superuser write to files without write permission.
-  if ((mode.write || truncates) && !created && (status.st_mode & any_write_bit) == 0)
+  if ((mode.write || truncates) && !created && (status.st_mode & kAnyWriteBit) == 0)
     return give_up(handle, EACCES);
   if (!join_sharing(handle, mode, truncates)) return give_up(handle, errno);
   if (truncates && !truncate_open_file(name, handle, mode, status)) return give_up(handle, errno);
@@ -114,7 +114,7 @@ Transfer read_file(int handle, void* buffer, std::size_t count) {
   char* const bytes = static_cast<char*>(buffer);
   std::size_t done = 0;
   while (true) {
-    const ssize_t n = read(handle, bytes + done, std::min(count - done, largest_transfer));
+    const ssize_t n = read(handle, bytes + done, std::min(count - done, kLargestTransfer));
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) return {done, false};
     done += static_cast<std::size_t>(n);
@@ -126,7 +126,7 @@ Transfer write_file(int handle, const void* buffer, std::size_t count) {
   const char* const bytes = static_cast<const char*>(buffer);
   std::size_t done = 0;
   while (true) {
-    const ssize_t n = write(handle, bytes + done, std::min(count - done, largest_transfer));
+    const ssize_t n = write(handle, bytes + done, std::min(count - done, kLargestTransfer));
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) return {done, false};
     done += static_cast<std::size_t>(n);
@@ -137,7 +137,7 @@ Transfer write_file(int handle, const void* buffer, std::size_t count) {
 Transfer read_at(int handle, void* buffer, std::size_t count, std::int64_t position) {
   ssize_t n;
   do {
-    n = pread(handle, buffer, std::min(count, largest_transfer), position);
+    n = pread(handle, buffer, std::min(count, kLargestTransfer), position);
   } while (n < 0 && errno == EINTR);
   return n < 0 ? Transfer{0, false} : Transfer{static_cast<std::size_t>(n), true};
 }

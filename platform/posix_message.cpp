@@ -14,7 +14,7 @@
 namespace kz::platform {
 namespace {
 
-constexpr int answer_ok = 1;
+constexpr int kAnswerOk = 1;
 
 struct Handlers {
   kz_message_box_handler message_box = nullptr;
@@ -29,12 +29,12 @@ Handlers& handlers() {
 }
 
 // Windows-1251, 0x80 to 0xFF. 0x98 is not assigned.
-constexpr std::u16string_view upper_half =
+constexpr std::u16string_view kUpperHalf =
     u"ЂЃ‚ѓ„…†‡€‰Љ‹ЊЌЋЏђ‘’“”•–—\uFFFD™љ›њќћџ"
     u"\u00A0ЎўЈ¤Ґ¦§Ё©Є«¬\u00AD®Ї°±Ііґµ¶·ё№є»јЅѕї"
     u"АБВГДЕЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ"
     u"абвгдежзийклмнопрстуфхцчшщъыьэюя";
-static_assert(upper_half.size() == 128);
+static_assert(kUpperHalf.size() == 128);
 
 void append_utf8(std::string& out, char16_t c) {
   const auto add = [&out](unsigned byte) { out += static_cast<char>(byte); };
@@ -59,14 +59,14 @@ void append_line(std::string& out, std::string_view text) {
     if (control && !in_controls)
       out += ' ';
     else if (!control)
-      append_utf8(out, byte < 0x80 ? byte : upper_half[byte - 0x80U]);
+      append_utf8(out, byte < 0x80 ? byte : kUpperHalf[byte - 0x80U]);
     in_controls = control;
   }
 }
 
 }  // namespace
 
-int message_box(const char* text, const char* caption, unsigned int type) {
+int message_box(const char* text, const char* caption, unsigned int type) noexcept {
   if (text == nullptr) text = "";
   if (caption == nullptr) caption = "";
   if (const Handlers& set = handlers(); set.message_box != nullptr)
@@ -79,10 +79,10 @@ int message_box(const char* text, const char* caption, unsigned int type) {
   line += '\n';
   write_file(STDERR_FILENO, line.data(), line.size());
   errno = error;
-  return answer_ok;
+  return kAnswerOk;
 }
 
-void beep(unsigned int type) {
+void beep(unsigned int type) noexcept {
   if (const Handlers& set = handlers(); set.beep != nullptr)
     return set.beep(type, set.beep_context);
   const int error = errno;

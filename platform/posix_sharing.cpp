@@ -27,10 +27,10 @@ namespace {
 
 enum Zone { reads, writes, denies_reads, denies_writes, zone_count };
 
-constexpr off_t zone_size = off_t{1} << 32;
-constexpr off_t zone_base = off_t{1} << 62;
+constexpr off_t kZoneSize = off_t{1} << 32;
+constexpr off_t kZoneBase = off_t{1} << 62;
 
-constexpr off_t zone_start(int zone) { return zone_base + zone * zone_size; }
+constexpr off_t zone_start(int zone) { return kZoneBase + zone * kZoneSize; }
 
 struct flock make_lock(short type, off_t start, off_t count) {
   struct flock lock {};
@@ -58,7 +58,7 @@ bool is_held_elsewhere() { return errno == EAGAIN || errno == EACCES; }
 // Takes the first byte behind the zone's first one that is free.
 bool place_exclusive(int handle, off_t zone) {
   off_t byte = zone + 1;
-  while (byte < zone + zone_size) {
+  while (byte < zone + kZoneSize) {
     if (place(handle, F_WRLCK, byte)) return true;
     if (!is_held_elsewhere()) return false;
     if (const auto holder = foreign_lock(handle, byte, 1)) {
@@ -81,14 +81,14 @@ Outcome try_join(int handle, const std::array<bool, zone_count>& marks,
       return is_held_elsewhere() ? Outcome::forbidden : Outcome::no_locks_here;
   }
   for (int zone = 0; zone < zone_count; ++zone) {
-    if (obstacles[zone] && foreign_lock(handle, zone_start(zone), zone_size))
+    if (obstacles[zone] && foreign_lock(handle, zone_start(zone), kZoneSize))
       return Outcome::forbidden;
   }
   return Outcome::joined;
 }
 
 void remove_marks(int handle) {
-  struct flock lock = make_lock(F_UNLCK, zone_base, zone_count * zone_size);
+  struct flock lock = make_lock(F_UNLCK, kZoneBase, zone_count * kZoneSize);
   fcntl(handle, F_OFD_SETLK, &lock);
 }
 
@@ -109,14 +109,14 @@ bool join_sharing(int handle, const OpenMode& mode, bool truncates) {
                                                   mode.read, mode.write || truncates};
   // Two opens that mark the file at the same time see each other's marks, and each would give way
   // although one of them, or both after a failed third, could stay. Hence the further attempts.
-  constexpr int attempts = 3;
+  constexpr int kAttempts = 3;
   for (int attempt = 1;; ++attempt) {
     const Outcome outcome = try_join(handle, marks, obstacles, mode.read);
     if (outcome == Outcome::joined) return true;
     remove_marks(handle);
     // File systems without locks keep no sharing rules; files there can still be used.
     if (outcome == Outcome::no_locks_here) return true;
-    if (attempt == attempts) break;
+    if (attempt == kAttempts) break;
     wait_a_little(handle);
   }
   errno = EBUSY;

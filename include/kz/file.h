@@ -1,9 +1,9 @@
 // ZCFile: a handle to a file of the operating system, unbuffered, with operations on named files.
 //
 // Open a file with a name and flags, read or write it, close it; every failure shows in a result,
-// nothing throws, and errno is left as the system set it. ZCFileStatus is the record that the
-// status operations fill. Opens through the library respect each other's sharing bits, in one
-// process and between processes.
+// nothing throws, and errno is left as the system set it. Without memory the process ends.
+// ZCFileStatus is the record that the status operations fill. Opens through the library respect
+// each other's sharing bits, in one process and between processes.
 //
 //   ZCFile file;
 //   if (file.Open("words.txt", 0x8020)) {  // read, others may read
@@ -37,6 +37,7 @@
 // What is known about a file. A new record is unset until a status operation has filled it.
 class KZ_API ZCFileStatus {
  public:
+  // Sets nothing.
   ZCFileStatus();
 
   ZCTime creation_time;      // the modification time where the file system keeps none
@@ -49,6 +50,7 @@ class KZ_API ZCFileStatus {
   char full_name[260];  // full path, zero-terminated
 };
 
+// The handle, closed at its end when Open opened it. One thread at a time uses it.
 class KZ_API ZCFile : public ZCObject {
  public:
   // No file.
@@ -148,7 +150,8 @@ class KZ_API ZCFile : public ZCObject {
   static void SetStatus(const char* name, const ZCFileStatus& status);
 
   // Operations on named files: 1 on success, 0 on failure.
-  static int Copy(const char* from, const char* to);    // replaces an existing target
+  // Copy replaces an existing target; a file copied onto itself fails and stays whole.
+  static int Copy(const char* from, const char* to);
   static int Rename(const char* from, const char* to);  // never replaces a target
   static int Remove(const char* name);                  // files only, no directories
 

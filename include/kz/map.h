@@ -1,8 +1,9 @@
 // ZCMapStringToOb: a hash map from text keys to objects.
 //
-// Keys are compared byte by byte, so that two keys that differ in case are two entries; values are
-// not owned. The number of buckets is fixed: call InitHashTable with about as many buckets as keys
-// are to come, before the first one. A map serves one thread at a time. A short example:
+// Keys are compared byte by byte, so that two keys that differ in case are two entries; a null key
+// counts as the empty one. Values are not owned. The number of buckets is fixed: call InitHashTable
+// with about as many buckets as keys are to come, before the first one. A map serves one thread at
+// a time. A short example:
 //
 //     ZCMapStringToOb map;
 //     map["table"] = &object;
@@ -26,6 +27,7 @@ namespace kz {
 struct MapCore;  // works on the chains of a map
 }  // namespace kz
 
+// A key with its value is called an association.
 class KZ_API ZCMapStringToOb : public ZCObject {
  public:
   // An empty map of 17 buckets that allocates its associations ten at a time.

@@ -2,8 +2,8 @@
  *
  * The library has no user interface. A message (ZMessageBox in kz/string.h, MsgBox in
  * kz/strutil.h) goes to the handler that the host has set here; without one it is written to
- * standard error as one line and counts as answered with OK. Set the handlers before other threads
- * use the library:
+ * standard error as one line and counts as answered with OK. Handlers must not throw. Set the
+ * handlers before other threads use the library:
  *
  *   static int show(const char* text, const char* caption, unsigned int type, void* window);
  *   kz_platform_set_message_box(show, window);

@@ -73,9 +73,11 @@ class KZ_API ZCString {
 
   // --- Access ---
 
+  // Characters, without the NUL behind them.
   int GetLength() const noexcept;
   // Characters that the buffer can hold; 0 without a buffer.
   int GetAllocLength() const noexcept;
+  // 1 when the length is 0.
   int IsEmpty() const noexcept;
   // The zero-terminated characters: valid until this string changes or dies.
   operator const char*() const noexcept;

@@ -51,6 +51,7 @@ class KZ_API ZCTimeSpan {
   // Leaves the value unset: assign before reading.
   ZCTimeSpan();
   ZCTimeSpan(std::int32_t seconds);
+  // The sum of the parts, which need not lie in their ranges.
   ZCTimeSpan(std::int32_t days, int hours, int minutes, int seconds);
   ZCTimeSpan(const ZCTimeSpan& other);
   ZCTimeSpan& operator=(const ZCTimeSpan& other);
@@ -66,6 +67,7 @@ class KZ_API ZCTimeSpan {
   int GetMinutes() const;
   int GetSeconds() const;
 
+  // Sum and difference of the seconds.
   ZCTimeSpan operator+(const ZCTimeSpan& other) const;
   ZCTimeSpan operator-(const ZCTimeSpan& other) const;
   ZCTimeSpan& operator+=(const ZCTimeSpan& other);
@@ -127,6 +129,7 @@ class KZ_API ZCTime {
   // 1 for Sunday to 7 for Saturday.
   int GetDayOfWeek() const;
 
+  // The span between two points in time, and the point in time at that distance.
   ZCTimeSpan operator-(const ZCTime& other) const;
   ZCTime operator+(const ZCTimeSpan& span) const;
   ZCTime operator-(const ZCTimeSpan& span) const;

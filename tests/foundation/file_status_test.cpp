@@ -52,8 +52,13 @@ TEST_F(StatusTest, AttributesTellReadOnlyHiddenAndDirectory) {
   ZCFileStatus status;
   ASSERT_EQ(ZCFile().GetStatus(name.c_str(), status), 1);
   EXPECT_EQ(status.attribute, 0x03);
-  ASSERT_EQ(ZCFile().GetStatus(directory_.c_str(), status), 1);
-  EXPECT_EQ(status.attribute, 0x10);
+  for (const char* const visible : {directory_.c_str(), ".", "..", "./"}) {
+    ASSERT_EQ(ZCFile().GetStatus(visible, status), 1);
+    EXPECT_EQ(status.attribute, 0x10) << visible;
+  }
+  std::filesystem::create_directory(path(".directory"));
+  ASSERT_EQ(ZCFile().GetStatus(path(".directory/").c_str(), status), 1);
+  EXPECT_EQ(status.attribute, 0x12);
 }
 
 TEST_F(StatusTest, WithoutAFileOnlyTheNameIsFilled) {

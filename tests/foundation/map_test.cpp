@@ -201,6 +201,36 @@ TEST(Map, TakesAssociationsInBlockOrderAndReusesRemovedOnesFirst) {
   EXPECT_EQ(&map["c"], slots[2]);
 }
 
+TEST(Map, AnIterationEndsWhenTheMapIsEmptied) {
+  ZCMapStringToOb map;
+  map["a"] = map["b"] = nullptr;
+  for (const int steps : {0, 1}) {
+    ZCString key;
+    ZCObject* value = nullptr;
+    POSITION at = map.GetStartPosition();
+    for (int i = 0; i < steps; ++i) map.GetNextAssoc(at, key, value);
+    map.RemoveAll();
+    key = "as before";
+    map.GetNextAssoc(at, key, value);
+    EXPECT_EQ(at, nullptr);
+    EXPECT_EQ(key, "as before");
+    map["a"] = map["b"] = nullptr;
+  }
+}
+
+TEST(Map, ANullKeyIsTheEmptyKey) {
+  const char* const null = nullptr;
+  ZCMapStringToOb map;
+  map.SetAt(null, &map);
+  EXPECT_EQ(map[""], &map);
+  const char* stored = nullptr;
+  EXPECT_EQ(map.LookupKey(null, stored), 1);
+  EXPECT_STREQ(stored, "");
+  EXPECT_EQ(map.RemoveKey(null), 1);
+  ZCObject* value = nullptr;
+  EXPECT_EQ(map.Lookup(null, value), 0);
+}
+
 TEST(Map, IterationGivesKeysWithTheirLanguage) {
   ZCMapStringToOb map;
   map["word"] = nullptr;
