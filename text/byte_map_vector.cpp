@@ -73,7 +73,9 @@ __attribute__((target("avx512bw,avx512vbmi"))) std::size_t translate_avx512(
 
 VectorCode best_vector_code() {
   if (!__builtin_cpu_supports("avx2")) return VectorCode::none;
-  return __builtin_cpu_supports("avx512vbmi") ? VectorCode::avx512 : VectorCode::avx2;
+  const bool has_avx512 =
+      __builtin_cpu_supports("avx512bw") != 0 && __builtin_cpu_supports("avx512vbmi") != 0;
+  return has_avx512 ? VectorCode::avx512 : VectorCode::avx2;
 }
 
 std::size_t translate_vectors(VectorCode code, const char* source, char* destination,

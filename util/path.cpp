@@ -1,4 +1,5 @@
 // File names: their parts, their extensions, their short forms.
+#include <cstddef>
 #include <cstring>
 #include <string_view>
 

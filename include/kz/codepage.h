@@ -78,13 +78,13 @@ KZ_API char* strhtmltoansi(const char* source, char* destination);
  * is allowed here and returned. */
 KZ_API char* kz_codr_ee(char* text);
 
-/* Copy `source` with the sharp s as the two letters "ss", or the oe ligature as "oe": in CP850, in
- * Windows-1252, in Windows-1252. Each returns the number of replacements (its low 16 bits).
- * `destination` holds the source's length plus that number plus one byte and must not overlap the
- * source. */
-KZ_API uint16_t kz_codr_oem_ss(const char* source, char* destination);
-KZ_API uint16_t kz_codr_ansi_ss(const char* source, char* destination);
-KZ_API uint16_t kz_codr_ansi_oe(const char* source, char* destination);
+/* Copy `source` with one letter written as two. Each returns the number of replacements (its low 16
+ * bits). `destination` holds the source's length plus that number plus one byte and must not
+ * overlap the source. */
+KZ_API uint16_t kz_codr_oem_ss(const char* source, char* destination);  /* sharp s of CP850: ss */
+KZ_API uint16_t kz_codr_ansi_ss(const char* source, char* destination); /* of Windows-1252: ss */
+KZ_API uint16_t kz_codr_ansi_oe(const char* source, char* destination); /* small oe ligature of
+                                                                           Windows-1252: oe */
 
 #ifdef __cplusplus
 }

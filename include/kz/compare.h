@@ -54,8 +54,8 @@ KZ_API int stroemanicmp(const char* a, const char* b, int n, const char* languag
 KZ_API char* _strchr(const char* text, int character);
 KZ_API char* _strrchr(const char* text, int character);
 
-/* The position of an English vowel in "aeiouyAEIOUY", counted from 1; 13 for the zero character, 0
- * for anything else. */
+/* The position of an English vowel (the low 8 bits of `character`) in "aeiouyAEIOUY", counted from
+ * 1; 13 for the zero character, 0 for anything else. */
 KZ_API int16_t isvowel(int character);
 
 /* 1 for the Russian vowels a, ie, i, o, u, yery and their capitals in Windows-1251, else 0. Yo, e,

@@ -34,8 +34,9 @@ KZ_API const char* kz_locl_language(const char* text);
  * "DE"; null for any other. */
 KZ_API const char* LanguageIdToStr(uint16_t identifier);
 
-/* Swaps the halves of a four-character direction in place ("ENRU" becomes "RUEN"). Returns its
- * argument; nothing changes when that is null or one of its first three characters is zero. */
+/* Swaps the halves of a four-character direction in place ("ENRU" becomes "RUEN"). A longer text is
+ * cut to its first four characters, of one of three the last is left. Returns its argument; nothing
+ * changes when that is null or has fewer than three characters. */
 KZ_API char* InvertLanguages(char* direction);
 
 /* The letters of a class, as a constant zero-terminated text of the library. */

@@ -4,7 +4,8 @@
  * first two letters, in any case, say the language of the text. The functions know the letters that
  * a language has beyond its plain alphabet, read them from ASCII notation (u" for u with
  * diaeresis), and guess a language by counting letters. Text is Windows-1251 for Russian,
- * Windows-1252 for German and French.
+ * Windows-1252 for German and French; characters are cut to their low 8 bits and returned as 0 to
+ * 255.
  *
  *   char word[] = "Mu\"ller";
  *   kz_codr_create_spec_chars(word, word, "DERU");   // now six letters, with the umlaut
@@ -48,9 +49,9 @@ KZ_API char* kz_codr_create_spec_chars(char* destination, const char* source, co
  */
 KZ_API int IsBufRuLanguage(const char* text, int16_t length, const char* language);
 
-/* The same for a whole word, where apostrophe, blank and & / * - . do not count. Returns 0 when
- * there are Latin letters and no more Russian ones than these, else the number of Russian letters;
- * -1 when there is no letter at all and for a null or empty word. */
+/* The same for a whole word, where a tie is decided: 0 when there are Latin letters and no more
+ * Russian ones than these, else the number of Russian letters; -1 when there is no letter at all
+ * and for a null or empty word. */
 KZ_API int IsWordRuLanguage(const char* word, const char* language);
 
 /* Index of a grammatical case mask by its lowest bit above the nominative: 1 genitive (0x02), 2

@@ -4,12 +4,13 @@
  * the caller and return the position of the terminating zero they wrote, so that calls chain; those
  * that work in place return their argument. Copies that never lengthen may work in place. White
  * space is blank, tab, line feed, vertical tab, form feed and carriage return, whatever the locale.
- * A null source counts as empty. A short example:
+ * A null source counts as empty.
  *
- *     char line[64];
- *     char* end = strcpy_rn(line, "a\r\nb");         a line feed b
- *     strcpydel(end, "1,000", ',');                  a line feed b1000
- *     SetExt(line, "c:\\work\\list.txt", ".bak");    c:\work\list.bak */
+ *   char line[64];
+ *   char* end = strcpy_rn(line, "one\r\ntwo ");    // "one\ntwo ", end is at its final zero
+ *   strcpydel(end, "1,000", ',');                  // "one\ntwo 1000"
+ *   SetExt(line, "c:\\work\\list.txt", ".bak");    // "c:\work\list.bak"
+ */
 #ifndef KZ_STRUTIL_H
 #define KZ_STRUTIL_H
 
@@ -112,11 +113,12 @@ KZ_API int MsgBox(const char* text, unsigned int style, unsigned int language);
 /* Plays the default system sound. */
 KZ_API void beep(void);
 /* Makes the title line of a generated file: 72 characters and a zero byte. From the left the names
- * and extensions of the two paths in capitals (A to Z; a path's directory ends at its last '\', '/'
- * or ':'; a name has at most 8 characters, counting the separator before it, of which a slash is
- * not written), one blank between them; second_path may be null. At the right the local time as
- * "Jan 02 12:34:56 2005" and a line feed; names that reach so far are overwritten by it. output has
- * room for 73 bytes. Returns the position of the terminating zero. */
+ * and extensions of the two paths in capitals (A to Z), one blank between them; second_path may be
+ * null. What stands before the last '\' or ':' of a path is left out (a '/' is a character like any
+ * other); a name has at most 8 characters counting that separator, which is written if it is a ':'.
+ * At the right the local time as "Jan 02 12:34:56 2005" and a line feed; names that reach so far
+ * are overwritten by it. output has room for 73 bytes. Returns the position of the terminating
+ * zero. */
 KZ_API char* init_header(char* output, const char* first_path, const char* second_path);
 
 /* ---- Memory and error state ------------------------------------------------------------------ */

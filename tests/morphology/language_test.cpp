@@ -44,7 +44,8 @@ TEST(LanguageCode, OfAnIdentifierIsTheSameConstant) {
 
 TEST(InvertLanguages, SwapsTheHalvesOfWholeDirections) {
   const std::pair<const char*, const char*> rows[] = {
-      {"FRRU", "RUFR"}, {"enRU", "RUen"}, {"", ""}, {"E", "E"}, {"EN", "EN"}, {"ENR", "R"}};
+      {"FRRU", "RUFR"}, {"enRU", "RUen"}, {"", ""},          {"E", "E"},
+      {"EN", "EN"},     {"ENR", "R"},     {"ENRUDE", "RUEN"}};
   for (const auto& [direction, inverted] : rows) {
     std::string text = direction;
     EXPECT_EQ(InvertLanguages(text.data()), text.data());

@@ -241,12 +241,13 @@ TEST(TitleLine, HoldsTheNamesAndTheTime) {
   } cases[] = {
       {"c:\\work\\list.txt", "d:\\out\\x.y.dic", "LIST.TXT X.Y.DIC"},
       {"verylongname.txt", nullptr, "VERYLONG.TXT"},
-      {"\\verylongname.txt", "/work/verylongname", "VERYLON.TXT VERYLON"},
+      {"\\verylongname.txt", "d:\\verylongname", "VERYLON.TXT VERYLON"},
       {"c:table.dic", "noextension", ":TABLE.DIC NOEXTENS"},
       {".profile", "\\.profile", ".PROFILE .PROFILE"},
       {"", "b", " B"},
       {nullptr, "", ""},
       {"a.b\\c", "a.", "C A."},
+      {"a/b.c", "d:e/f", "A/B.C :E/F"},  // a slash separates nothing here
   };
   for (const auto& [first, second, names] : cases) {
     std::string before, line;
