@@ -67,10 +67,9 @@ Properties settle_properties(const BuildOptions& options, const Properties& dire
 
 std::string header_text(const std::string& name, const std::string& utf8,
                         const std::string& language, std::size_t limit) {
-  const bool western = language == "DE" || language == "FR";
   std::string text;
   try {
-    text = encode(from_utf8(utf8), western ? CodePage::kWestern : CodePage::kRussian);
+    text = encode(from_utf8(utf8), header_page(language));
   } catch (const Unmappable& error) {
     throw Failure(Status::kCodePage, "the " + name + ": " + error.what());
   } catch (const BadUtf8&) {

@@ -89,6 +89,10 @@ CodePage target_page(std::string_view language) {
   return target == '\0' ? source_page(language) : CodePage::kWestern;
 }
 
+CodePage header_page(std::string_view language) {
+  return language == "DE" || language == "FR" ? CodePage::kWestern : CodePage::kRussian;
+}
+
 std::string encode_entry(std::u32string_view entry, std::string_view language) {
   std::string bytes;
   for_each_section(layout_of(entry), entry.size(), language,

@@ -34,6 +34,8 @@ int alphabet_size(std::string_view language);
 
 CodePage source_page(std::string_view language);
 CodePage target_page(std::string_view language);
+// Of title, label and password.
+CodePage header_page(std::string_view language);
 
 std::string encode_entry(std::u32string_view entry, std::string_view language);
 std::string decode_entry(std::string_view entry, std::string_view language);  // UTF-8

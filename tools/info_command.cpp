@@ -27,10 +27,8 @@ void line(std::string_view name, const Value& value) {
   std::cout << std::left << std::setw(16) << name << value << '\n';
 }
 
-// Titles are in the code page of a single Western language, else in Russian.
 std::string shown(const std::string& text, const FileHeader& header) {
-  const bool western = header.language == "DE" || header.language == "FR";
-  return to_utf8(decode(text, western ? CodePage::kWestern : CodePage::kRussian));
+  return to_utf8(decode(text, header_page(header.language)));
 }
 
 std::string form_of(const FileHeader& header) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "tools/entry_printer.h"
 #include "tools/search.h"
@@ -27,6 +28,11 @@ class Lookup {
     for (const std::string& path : options.dictionaries) {
       searchers_.push_back(std::make_unique<Searcher>(path));
     }
+    if (options.set.directory.empty()) return;
+    set_.emplace(options.set);
+    for (CDic* const dictionary : set_->dictionaries()) {
+      searchers_.push_back(std::make_unique<Searcher>(dictionary));
+    }
   }
 
   // Answers one word; `line` tells that it is a line of standard input.
@@ -37,6 +43,7 @@ class Lookup {
       if (answer.step == Step::kNone) continue;
       found.push_back(
           {searcher->path(), searcher->language(), answer.step, std::move(answer.entries)});
+      if (options_.first) break;
     }
     all_found_ = all_found_ && !found.empty();
     printer_->print(word, found, line);
@@ -56,6 +63,7 @@ class Lookup {
  private:
   const LookupOptions& options_;
   std::unique_ptr<Printer> printer_;
+  std::optional<DictionarySet> set_;
   std::vector<std::unique_ptr<Searcher>> searchers_;
   bool all_found_ = true;
 };
@@ -64,7 +72,7 @@ class Lookup {
 
 void split_arguments(std::vector<std::string> arguments, LookupOptions& options) {
   auto word = arguments.begin();
-  if (options.dictionaries.empty() && word != arguments.end()) {
+  if (options.dictionaries.empty() && options.set.directory.empty() && word != arguments.end()) {
     word = std::find_if_not(word + 1, arguments.end(), names_dictionary);
     options.dictionaries.assign(arguments.begin(), word);
   }
@@ -72,7 +80,9 @@ void split_arguments(std::vector<std::string> arguments, LookupOptions& options)
 }
 
 Status lookup(const LookupOptions& options) {
-  if (options.dictionaries.empty()) throw Failure(Status::kUsage, "no dictionary is given");
+  if (options.dictionaries.empty() && options.set.directory.empty()) {
+    throw Failure(Status::kUsage, "no dictionary is given");
+  }
   if (options.words.empty()) throw Failure(Status::kUsage, "no word is given");
   Lookup session(options);
   for (const std::string& word : options.words) {

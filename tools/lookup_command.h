@@ -6,13 +6,16 @@
 #include <string>
 #include <vector>
 
+#include "tools/dictionary_set.h"
 #include "tools/status.h"
 
 namespace kzdic {
 
 struct LookupOptions {
   std::vector<std::string> dictionaries;
+  SetOptions set;                  // instead of dictionaries
   std::vector<std::string> words;  // "-" stands for the lines of standard input
+  bool first = false;              // the answer of the first dictionary that has one, only
   bool prefix = false;
   std::size_t next = 0;
   bool raw = false;
@@ -20,8 +23,8 @@ struct LookupOptions {
 };
 
 // Splits "FILE... WORD..." in place: the first argument is a dictionary, and so are those behind it
-// up to the first without the name extension of a dictionary. Nothing is done when dictionaries
-// were named by option.
+// up to the first without the name extension of a dictionary. All are words when dictionaries or a
+// set were named by option.
 void split_arguments(std::vector<std::string> arguments, LookupOptions& options);
 
 // kNotFound when some word is in none of the dictionaries.

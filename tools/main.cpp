@@ -1,9 +1,10 @@
-// kzdic: builds, imports, describes and searches dictionaries.
+// kzdic: builds, imports, dumps, describes and searches dictionaries.
 #include <CLI/CLI.hpp>
 #include <iostream>
 #include <new>
 
 #include "tools/build_command.h"
+#include "tools/dump_command.h"
 #include "tools/import_command.h"
 #include "tools/info_command.h"
 #include "tools/lookup_command.h"
@@ -62,6 +63,24 @@ void add_import(CLI::App& app, kzdic::ImportOptions& options, std::string& from)
   command->add_flag("-q,--quiet", options.quiet, "No summary");
 }
 
+void add_dump(CLI::App& app, kzdic::DumpOptions& options) {
+  CLI::App* command = app.add_subcommand("dump", "Print a dictionary as source text");
+  command->add_option("FILE", options.dictionary, "The dictionary")->required();
+  command->add_option("--from", options.from, "First letter of the first entries");
+  command->add_option("--to", options.to, "First letter of the last entries");
+  CLI::Option* code =
+      command->add_option("--code", options.codes, "Only entries with one of these part codes");
+  command
+      ->add_option_function<std::string>(
+          "--not-code",
+          [&options](const std::string& codes) {
+            options.codes = codes;
+            options.not_codes = true;
+          },
+          "Only entries with none of these part codes")
+      ->excludes(code);
+}
+
 void add_lookup(CLI::App& app, kzdic::LookupOptions& options, std::vector<std::string>& arguments) {
   CLI::App* command = app.add_subcommand("lookup", "Look words up");
   command
@@ -73,6 +92,18 @@ void add_lookup(CLI::App& app, kzdic::LookupOptions& options, std::vector<std::s
                    "FILE... WORD...: the first is a dictionary, and so are those behind it that "
                    "end in .dic, .dis, .dit, .dih or .dig; - is the lines of standard input")
       ->required();
+  CLI::Option* set =
+      command
+          ->add_option("--set", options.set.directory,
+                       "Directory of a set of dictionaries; all arguments are words then")
+          ->check(CLI::ExistingDirectory);
+  command->add_option("--direction", options.set.direction, "Direction of the set: ENRU, RUEN, ...")
+      ->needs(set);
+  command
+      ->add_option("--config", options.set.config,
+                   "Parameter string of the set (default: the base dictionaries)")
+      ->needs(set);
+  command->add_flag("--first", options.first, "Only the first dictionary that has the word");
   command->add_flag("--prefix", options.prefix, "All headwords that begin with the word");
   command->add_option("--next", options.next, "Also the records behind it, so many");
   CLI::Option* raw = command->add_flag("--raw", options.raw, "Entries as they stand");
@@ -85,12 +116,14 @@ int run(int argc, char** argv) {
   app.require_subcommand(1);
   kzdic::BuildOptions build_options;
   kzdic::ImportOptions import_options;
+  kzdic::DumpOptions dump_options;
   kzdic::LookupOptions lookup_options;
   std::string from;
   std::string info_path;
   std::vector<std::string> arguments;
   add_build(app, build_options);
   add_import(app, import_options, from);
+  add_dump(app, dump_options);
   app.add_subcommand("info", "Describe a dictionary")
       ->add_option("FILE", info_path, "The dictionary")
       ->required();
@@ -105,6 +138,8 @@ int run(int argc, char** argv) {
     kzdic::build(build_options);
   } else if (app.got_subcommand("import")) {
     kzdic::import_dictd(import_options);
+  } else if (app.got_subcommand("dump")) {
+    kzdic::dump(dump_options);
   } else if (app.got_subcommand("info")) {
     kzdic::info(info_path);
   } else {

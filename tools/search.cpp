@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "tools/code_page.h"
 #include "tools/entry_layout.h"
@@ -18,10 +19,16 @@ std::string_view headword_of(std::string_view entry) { return entry.substr(0, en
 
 }  // namespace
 
-Searcher::Searcher(const std::string& path)
-    : path_(path),
-      dictionary_(open_dictionary(path, 0)),
-      header_(read_file_header(path)),
+Searcher::Searcher(const std::string& path) : Searcher(open_dictionary(path, 0)) {}
+
+Searcher::Searcher(Dictionary dictionary) : Searcher(dictionary.get()) {
+  own_ = std::move(dictionary);
+}
+
+Searcher::Searcher(CDic* dictionary)
+    : path_(DicGetPath(dictionary)),
+      dictionary_(dictionary),
+      header_(read_file_header(path_)),
       order_(header_.language.empty() ? "EN" : header_.language, header_.depth) {}
 
 // The query in the dictionary's code page: none when it has characters that the page lacks.
@@ -45,7 +52,7 @@ std::vector<std::string> Searcher::forms(const std::string& word) const {
 
 std::vector<std::string> Searcher::exact(const std::string& word, std::size_t next) {
   std::vector<std::string> entries;
-  CDic* dictionary = dictionary_.get();
+  CDic* const dictionary = dictionary_;
   const char* entry = DicFind(dictionary, word.c_str(), kExact, kResolve);
   if (entry == nullptr) return entries;
   // The exact headword stands first among those that begin with it; searched this way, what
@@ -64,7 +71,7 @@ std::vector<std::string> Searcher::exact(const std::string& word, std::size_t ne
 std::vector<std::string> Searcher::beginning_with(const std::string& prefix) {
   std::vector<std::string> entries;
   if (prefix.empty()) return entries;
-  CDic* dictionary = dictionary_.get();
+  CDic* const dictionary = dictionary_;
   // The key list of depth 5 does not find beginnings of fewer than five characters, nor keep the
   // words of one beginning together: all records are looked at.
   const bool keys = header_.depth == 5;

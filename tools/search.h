@@ -36,6 +36,8 @@ class Searcher {
  public:
   // Opens the dictionary. Throws Failure.
   explicit Searcher(const std::string& path);
+  // Searches a dictionary that is open and outlives the searcher. Throws Failure.
+  explicit Searcher(CDic* dictionary);
 
   const std::string& path() const { return path_; }
   const std::string& language() const { return header_.language; }
@@ -43,12 +45,15 @@ class Searcher {
   Answer find(const Query& query);
 
  private:
+  explicit Searcher(Dictionary dictionary);
+
   std::vector<std::string> forms(const std::string& word) const;
   std::vector<std::string> exact(const std::string& word, std::size_t next);
   std::vector<std::string> beginning_with(const std::string& prefix);
 
   std::string path_;
-  Dictionary dictionary_;
+  Dictionary own_;  // empty for a dictionary that was given
+  CDic* dictionary_;
   FileHeader header_;
   SortOrder order_;
 };

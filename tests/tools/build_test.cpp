@@ -175,6 +175,13 @@ TEST_P(RandomDictionary, HoldsItsSourceAndAnswersForEveryHeadword) {
 
   ASSERT_EQ(place.kzdic(arguments).status, 0);
   EXPECT_EQ(place.read("out.dic"), bytes) << "a second build gives other bytes";
+
+  const Outcome dumped = place.kzdic({"dump", "out.dic"});
+  ASSERT_EQ(dumped.status, 0) << dumped.err;
+  place.write("source.txt", dumped.out);
+  ASSERT_EQ(place.kzdic(arguments).status, 0);
+  EXPECT_EQ(place.read("out.dic"), bytes) << "a build of what was dumped gives other bytes";
+  EXPECT_EQ(place.kzdic({"dump", "out.dic"}).out, dumped.out);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,0 +1,25 @@
+// kzdic dump: dictionary file to source text.
+#ifndef KZ_TOOLS_DUMP_COMMAND_H
+#define KZ_TOOLS_DUMP_COMMAND_H
+
+#include <string>
+
+namespace kzdic {
+
+struct DumpOptions {
+  std::string dictionary;
+  std::string from;  // the range of first letters: words of which the first letter counts,
+  std::string to;    // empty for no bound
+  std::string codes;
+  bool not_codes = false;  // the records without these part codes instead of those with them
+};
+
+// Writes the directives and the entries, in the order of the dictionary, to standard output. Built
+// with the options of the first time, the source gives the same dictionary. Throws Failure; entries
+// that no source line stands for are reported and end the command with their status when everything
+// has been written.
+void dump(const DumpOptions& options);
+
+}  // namespace kzdic
+
+#endif  // KZ_TOOLS_DUMP_COMMAND_H
