@@ -2,8 +2,9 @@
  *
  * Every function of the engine leaves its result in one process-wide 16-bit error variable, which
  * header reads, dictionary opens and searches clear first; many return the same code directly, and
- * so do the list files, replacement buffers and inflection tables. The variable has no owner:
- * threads that use the engine at the same time overwrite each other's code.
+ * so do the list files, replacement buffers and inflection tables. The variable is atomic:
+ * threads that use the engine at the same time, each on dictionaries or a set of its own, share
+ * nothing else and are no data race. But it has no owner, so they overwrite each other's code.
  *
  *     CDic* dictionary = DicOpen("general.dic", 0);
  *     if (!dictionary && kz_dict_dic_errno() == DIC_ERR_FILE) puts(strerror(kz_dict_errno()));
