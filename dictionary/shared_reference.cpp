@@ -5,11 +5,16 @@
 #include <cstddef>
 
 #include "entry/split.h"
+#include "kz/charclass.h"
 
 namespace kz {
 
 SharedReference find_shared_reference(std::string_view entry, std::uint32_t shared_size) {
   constexpr std::size_t kDigitsMax = 10;
+  // Most entries have no source sections and do not end in a digit: nothing need be taken apart.
+  if (entry.empty() || (!_isxdigit(entry.back()) && entry.find('\\') == std::string_view::npos)) {
+    return {};
+  }
   const EntryParts parts = split_entry(entry);
   const std::string_view body = parts.body;
   const std::string_view digits = body.substr(0, kDigitsMax);

@@ -97,14 +97,20 @@ std::vector<Record> read_records(const SourceText& source, const EntryReader& re
   return records;
 }
 
+// Looks at nothing but what a dictionary of depth 3 would hold, so that the text of a finished
+// dictionary leads to its depth again.
 int choose_depth(const std::vector<Record>& records, const std::string& language, bool skip_bad) {
   const SortOrder two(language, 2);
   const SortOrder three(language, 3);
   std::set<std::uint32_t> groups;
+  std::set<std::string_view> seen;
   std::size_t bytes = 0;
   for (const Record& record : records) {
-    if (two.refusal(record.headword)) continue;
-    if (!skip_bad && three.refusal(record.headword)) return 2;
+    if (three.refusal(record.headword)) {
+      if (skip_bad) continue;
+      return 2;
+    }
+    if (!seen.insert(record.text).second) continue;
     groups.insert(two.group(record.headword));
     bytes += record.text.size() + 1;
   }
@@ -193,16 +199,16 @@ void build(const BuildOptions& options) {
   Refusals refusals(options.skip_bad);
   const EntryReader reader({language, word_list, options.packed, options.fold_yo});
   std::vector<Record> records = read_records(source, reader, refusals);
-  const int depth =
-      options.depth != 0 ? options.depth : choose_depth(records, language, options.skip_bad);
-  const SortOrder order(language, depth);
-  refuse_if(records, source, refusals,
-            [&](const Record& record) { return order.refusal(record.headword); });
   if (options.packed) {
     refuse_if(records, source, refusals, [&](const Record& record) {
       return packed_refusal(record.text, language, may_share);
     });
   }
+  const int depth =
+      options.depth != 0 ? options.depth : choose_depth(records, language, options.skip_bad);
+  const SortOrder order(language, depth);
+  refuse_if(records, source, refusals,
+            [&](const Record& record) { return order.refusal(record.headword); });
   for (Record& record : records) record.group = order.group(record.headword);
   sort_records(records, source);
   if (options.packed) refuse_long_prefixes(records, source, refusals);
