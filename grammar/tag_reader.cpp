@@ -153,7 +153,15 @@ struct TagReader {
   char* latin_area;
 
   const char* read_all(const char* at, unsigned char code) const {
+    const Actions& actions = actions_of(code);
     for (;; ++at) {
+      // Most characters are tags without "-", items of their own.
+      const Action& action = actions[static_cast<unsigned char>(*at)];
+      if (action.act == Act::set) {
+        *code_out = static_cast<char>(code);
+        set(action, false);
+        continue;
+      }
       if (ends_grammar(*at)) break;
       at = read_item(at, code);
       if (*at == '|') return at;

@@ -44,7 +44,7 @@ inline constexpr std::array<Group, 256> group_of_code = [] {
 // The letters of the cases, from the lowest bit of a case set on.
 inline constexpr std::string_view case_letters = U"ИРДВТП"_1251;
 
-// Part-of-speech codes with their own case letters have these in common.
+// A case set with every case.
 inline constexpr std::uint32_t all_cases = 63;
 
 struct Tag {

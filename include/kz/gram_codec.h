@@ -1,10 +1,10 @@
 /* Tag strings: the grammar of a word as dictionary entries and modules write it.
  *
  * GramToStr writes the records of a word (kz/gram_record.h) as a tag string such as "MS#12a:3%NA",
- * StrToGram reads one. A letter means what the part of speech makes of it ("P" is plural, and in
- * front of a noun's "-P" without plural), so both take the part-of-speech code. Reading only adds:
- * clear the records first. docs/grammar.md lists the tags. Text is Windows-1251; part-of-speech
- * codes are its characters, cut to their low 8 bits.
+ * StrToGram reads one. What a letter means depends on the part of speech ("T" makes a verb
+ * transitive, but is another flag of a noun), so both take the part-of-speech code. Reading only
+ * adds: clear the records first. docs/grammar.md lists the tags. Text is Windows-1251;
+ * part-of-speech codes are its characters, cut to their low 8 bits.
  *
  *   GRAMINFO gram = {0};
  *   SEMANTICS semantics = {0};
