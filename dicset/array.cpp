@@ -59,6 +59,7 @@ bool put_descriptor(ZCObArray& array, std::int16_t position, std::string_view pr
   } else {
     if (position < array.GetSize()) delete array[position];
     array.SetAtGrow(position, made.get());
+    if (position >= array.GetSize()) return false;
   }
   static_cast<void>(made.release());
   return true;

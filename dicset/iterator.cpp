@@ -46,7 +46,6 @@ int32_t CDicSysEntryIterator::GetCounter() { return CDicEntryIterator::GetCounte
 CDicSysEntryIterator* DicSysIteratorOpen(CDicSys* set, const char* path, const char* from,
                                          const char* to, int16_t value, const char* filter,
                                          int16_t include) {
-  if (set == nullptr) return nullptr;
   std::unique_ptr<CDicSysEntryIterator> iterator(new (std::nothrow) CDicSysEntryIterator);
   const bool open =
       iterator && iterator->OpenIterator(set, path, from, to, value, filter, include) != nullptr;

@@ -7,9 +7,9 @@
 #include <new>
 #include <string_view>
 
+#include "dictionary/index.h"
 #include "dictionary/iterator_record.h"
 #include "dictionary/lookup.h"
-#include "kz/dic_index.h"
 #include "kz/dictionary.h"
 #include "kz/special.h"
 #include "text/literal.h"
@@ -71,7 +71,7 @@ bool EntryWalk::open(CDic* dictionary, const char* path, const char* from, const
   if (dictionary == nullptr) return false;
   copy_word(it_.from_, from);
   copy_word(it_.to_, to);
-  if (it_.from_[0] != 0 && DicOffsetX(dictionary, it_.from_) == -1) {
+  if (it_.from_[0] != 0 && !IndexCore(Lookup::index(*dictionary)).set_prefix(it_.from_)) {
     if (!given) DicClose(dictionary);
     return false;
   }

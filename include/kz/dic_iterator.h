@@ -31,8 +31,9 @@ typedef CDicEntryIterator CDicSysEntryIterator;
 #endif
 
 /* Opens an iterator. Returns it, to be given to DicIteratorClose; null when the path cannot be
- * opened (the error variable tells why), when the index knows no records for the beginning of a
- * from word, and when memory runs out: a dictionary given by the caller then stays the caller's.
+ * opened (the error variable tells why), when a from word does not begin as headwords of the
+ * language can (there need be none that begins so), and when memory runs out: a dictionary given by
+ * the caller then stays the caller's.
  *
  * dictionary: passes to the iterator, which closes it at its end. Null: the path is opened in mode
  * 0. from, to: the range of first letters. It begins with the first letter of the from word, with
@@ -46,7 +47,8 @@ KZ_API CDicEntryIterator* DicIteratorOpen(CDic* dictionary, const char* path, co
                                           int16_t include);
 
 /* The same on the dictionary that is loaded in a set under the path (ChkDicInList), which stays
- * loaded and is not to be unloaded before the iterator is closed; else on the path. */
+ * loaded and is not to be unloaded before the iterator is closed; else on the path, as always for a
+ * null set. */
 KZ_API CDicSysEntryIterator* DicSysIteratorOpen(CDicSys* set, const char* path, const char* from,
                                                 const char* to, int16_t value, const char* filter,
                                                 int16_t include);

@@ -19,8 +19,8 @@
  *      direction of the set: those of the working direction
  *   2  other dictionaries whose language begins with 'R'
  *   3  all others
- *   4  dictionaries of the Russian side, and 5 of the other side, of the spelling or thesaurus
- * chain (kz/dic_array.h); filled by the engine, in C++ through CDicSys::queue
+ *   4  dictionaries of the Russian side, and 5 of the other side, of a chain
+ *      (kz/dic_array.h); filled by the engine, in C++ through CDicSys::queue
  *
  * Every function does nothing for a null set and then returns 0, null or, where said, -1. Lists are
  * numbered 0 to 5; another number is an empty list. A handle is valid until its dictionary is

@@ -138,11 +138,17 @@ TEST_F(SetTest, AnIteratorBorrowsTheLoadedDictionary) {
     EXPECT_STREQ(body, "b.dic");
     DicSysIteratorClose(iterator);
   }
-  EXPECT_EQ(DicSysIteratorOpen(set_, path.c_str(), "x", nullptr, 0, nullptr, 0), nullptr);
+  EXPECT_EQ(DicSysIteratorOpen(set_, path.c_str(), "!x", nullptr, 0, nullptr, 0), nullptr);
   EXPECT_STREQ(DicFind(loaded, "cat", 0, 2), "cat*Na.dic");
   EXPECT_EQ(DicSysIteratorOpen(set_, "/no/such.dic", nullptr, "", 0, nullptr, 0), nullptr);
-  EXPECT_EQ(DicSysIteratorOpen(nullptr, path.c_str(), nullptr, "", 0, nullptr, 0), nullptr);
   DicSysIteratorClose(nullptr);
+
+  // Without a set the path is opened.
+  CDicSysEntryIterator* const alone =
+      DicSysIteratorOpen(nullptr, path.c_str(), nullptr, "", 0, nullptr, 0);
+  EXPECT_STREQ(DicIteratorGetFirstEntry(alone, word, code, body, nullptr, 0), "cat*Na.dic");
+  EXPECT_NE(DicIteratorGetDicHandler(alone), loaded);
+  DicSysIteratorClose(alone);
 }
 
 }  // namespace
