@@ -3,6 +3,8 @@
 
     exports.py LIST LIBRARY            prints the differences; exit status 1 when there are any
     exports.py LIST LIBRARY --write    writes the list anew
+
+In the list, intptr_t stands for the type that it is on the system of the library.
 """
 
 import pathlib
@@ -16,12 +18,19 @@ def exported(library):
     return {line.split(" ", 2)[2] for line in symbols.splitlines() if line[:1].isalnum()}
 
 
+def intptr_type(library):
+    """The spelling of intptr_t in a 32-bit or 64-bit library, by the class byte of its ELF header."""
+    return "long" if pathlib.Path(library).read_bytes()[4] == 2 else "int"
+
+
 def main(list_file, library, *options):
     names = exported(library)
     if "--write" in options:
-        pathlib.Path(list_file).write_text("".join(f"{name}\n" for name in sorted(names)))
+        lines = [name.replace("(long)", "(intptr_t)") for name in sorted(names)]
+        pathlib.Path(list_file).write_text("".join(f"{line}\n" for line in lines))
         return 0
-    listed = set(pathlib.Path(list_file).read_text().splitlines())
+    listed = set(pathlib.Path(list_file).read_text().replace("intptr_t", intptr_type(library))
+                 .splitlines())
     for name in sorted(names - listed):
         print(f"exported, but not listed: {name}")
     for name in sorted(listed - names):
