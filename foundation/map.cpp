@@ -100,7 +100,11 @@ struct MapCore {
   }
 
   // Positions are the associations themselves, and one value that no association has.
-  static POSITION before_start() { return std::bit_cast<POSITION>(~std::uintptr_t{0}); }
+  static constexpr std::uintptr_t kBeforeStart = ~std::uintptr_t{0};
+  static POSITION before_start() { return std::bit_cast<POSITION>(kBeforeStart); }
+  static bool is_before_start(POSITION position) {
+    return reinterpret_cast<std::uintptr_t>(position) == kBeforeStart;
+  }
   static POSITION position_of(Association* at) { return reinterpret_cast<POSITION>(at); }
   static Association* association_at(POSITION at) { return reinterpret_cast<Association*>(at); }
 
@@ -193,7 +197,7 @@ POSITION ZCMapStringToOb::GetStartPosition() const {
 }
 
 void ZCMapStringToOb::GetNextAssoc(POSITION& position, ZCString& key, ZCObject*& value) const {
-  const bool at_start = position == MapCore::before_start();
+  const bool at_start = MapCore::is_before_start(position);
   Association* at = at_start ? MapCore::head_from(*this, 0) : MapCore::association_at(position);
   position = nullptr;
   if (at == nullptr || count_ == 0) return;

@@ -88,7 +88,7 @@ Iterator open_walk(const DumpOptions& options, const FileHeader& header) {
   Iterator walk(DicIteratorOpen(dictionary.get(), nullptr, nullptr, last_letter(header).c_str(), 0,
                                 codes.c_str(), options.not_codes ? 0 : 1));
   if (!walk) throw Failure(Status::kFile, options.dictionary + ": not enough memory");
-  dictionary.release();
+  static_cast<void>(dictionary.release());  // the walk closes it
   return walk;
 }
 
