@@ -20,6 +20,6 @@ need_packages() {
   apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev zlib1g-dev)
-test_packages=(googletest python3 binutils)
+build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev zlib1g-dev scdoc)
+test_packages=(googletest python3 binutils zsh)
 bench_packages=(libbenchmark-dev libcdb-dev liblmdb-dev libicu-dev)

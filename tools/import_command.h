@@ -7,6 +7,7 @@
 namespace kzdic {
 
 struct ImportOptions {
+  std::string from;      // kind of the database: "dictd" is the only one
   std::string base;      // path of the database without its name extension
   std::string output;    // "-" is standard output
   std::string language;  // empty: told from the name of the database or from its words
