@@ -4,35 +4,27 @@
 // dictionaries to give it. All peers hold the entries of the first dictionary; words come in random
 // order, all of them hits or all of them misses.
 #include <benchmark/benchmark.h>
-#include <cdb.h>
-#include <fcntl.h>
-#include <lmdb.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <memory>
 #include <random>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
+#include "bench/peers.h"
 #include "kz/dictionary.h"
 
 namespace {
+
+using peers::fail;
 
 struct Entries {
   std::vector<std::string> hits;    // every headword once, shuffled
   std::vector<std::string> misses;  // words of the same shape that are no headwords
   std::unordered_map<std::string, std::string> texts;
 };
-
-[[noreturn]] void fail(const std::string& what) {
-  std::fprintf(stderr, "lookup_bench: %s\n", what.c_str());
-  std::exit(1);
-}
 
 Entries read_entries(const char* path) {
   CDic* const dictionary = DicOpen(path, 0);
@@ -98,52 +90,6 @@ void add_dictionary(const char* path, const Entries& entries) {
       });
 }
 
-void add_cdb(const std::string& path, const Entries& entries) {
-  const int out = open(path.c_str(), O_RDWR | O_CREAT | O_TRUNC, 0600);
-  cdb_make maker;
-  if (out < 0 || cdb_make_start(&maker, out) != 0) fail("cannot make " + path);
-  for (const auto& [word, text] : entries.texts) {
-    cdb_make_add(&maker, word.data(), static_cast<unsigned>(word.size()), text.data(),
-                 static_cast<unsigned>(text.size()));
-  }
-  if (cdb_make_finish(&maker) != 0) fail("cannot write " + path);
-  static cdb database;
-  if (cdb_init(&database, out) != 0) fail("cannot open " + path);
-  add("cdb", entries, [](const std::string& word) {
-    if (cdb_find(&database, word.data(), static_cast<unsigned>(word.size())) <= 0) return false;
-    benchmark::DoNotOptimize(cdb_getdata(&database));
-    return true;
-  });
-}
-
-void add_lmdb(const std::string& path, const Entries& entries) {
-  MDB_env* environment = nullptr;
-  MDB_txn* transaction = nullptr;
-  static MDB_dbi database;
-  const auto check = [&](int result) {
-    if (result != 0) fail("LMDB: " + std::string(mdb_strerror(result)));
-  };
-  const auto value = [](const std::string& text) {
-    return MDB_val{text.size(), const_cast<char*>(text.data())};
-  };
-  check(mdb_env_create(&environment));
-  check(mdb_env_set_mapsize(environment, std::size_t{256} << 20));
-  check(mdb_env_open(environment, path.c_str(), MDB_NOSUBDIR | MDB_NOSYNC, 0600));
-  check(mdb_txn_begin(environment, nullptr, 0, &transaction));
-  check(mdb_dbi_open(transaction, nullptr, 0, &database));
-  for (const auto& [word, text] : entries.texts) {
-    MDB_val key = value(word), data = value(text);
-    check(mdb_put(transaction, database, &key, &data, 0));
-  }
-  check(mdb_txn_commit(transaction));
-  static MDB_txn* reading;
-  check(mdb_txn_begin(environment, nullptr, MDB_RDONLY, &reading));
-  add("lmdb", entries, [value](const std::string& word) {
-    MDB_val key = value(word), data;
-    return mdb_get(reading, database, &key, &data) == 0;
-  });
-}
-
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -153,12 +99,12 @@ int main(int count, char** arguments) {
   std::printf("%zu headwords\n", entries.hits.size());
   for (int i = 1; i < count; ++i) add_dictionary(arguments[i], entries);
 
-  std::string directory = (std::filesystem::temp_directory_path() / "kz-bench-XXXXXX").string();
-  if (mkdtemp(directory.data()) == nullptr) fail("no temporary directory");
-  add_cdb(directory + "/entries.cdb", entries);
-  add_lmdb(directory + "/entries.mdb", entries);
+  const peers::Directory directory;
+  peers::Cdb cdb(directory.file("entries.cdb"), entries.texts);
+  peers::Lmdb lmdb(directory.file("entries.mdb"), entries.texts);
+  add("cdb", entries, [&cdb](const std::string& word) { return cdb.find(word) != nullptr; });
+  add("lmdb", entries, [&lmdb](const std::string& word) { return lmdb.find(word) != nullptr; });
   add("unordered_map", entries,
       [&entries](const std::string& word) { return entries.texts.contains(word); });
   benchmark::RunSpecifiedBenchmarks();
-  std::filesystem::remove_all(directory);
 }

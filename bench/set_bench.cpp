@@ -4,19 +4,15 @@
 // Usage: set_bench DICTIONARY.dic... [benchmark options]; bench/real_dictionaries.sh builds
 // dictionaries to give it. The first one is copied for the sets; each is walked.
 #include <benchmark/benchmark.h>
-#include <cdb.h>
-#include <fcntl.h>
-#include <lmdb.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "bench/peers.h"
 #include "kz/dic_iterator.h"
 #include "kz/dic_queue.h"
 #include "kz/dic_set.h"
@@ -24,14 +20,11 @@
 
 namespace {
 
+using peers::fail;
+
 constexpr std::int16_t kAll = 0;  // the list of every dictionary of the queue
 constexpr std::size_t kQueue = 10;
 constexpr std::size_t kLoaded = 6;
-
-[[noreturn]] void fail(const std::string& what) {
-  std::fprintf(stderr, "set_bench: %s\n", what.c_str());
-  std::exit(1);
-}
 
 struct Entry {
   std::string word;
@@ -166,63 +159,13 @@ void add_iterator(const char* path) {
   add("/parts", true);
 }
 
-void add_cdb(const std::string& path, const std::vector<Entry>& entries) {
-  const int file = open(path.c_str(), O_RDWR | O_CREAT | O_TRUNC, 0600);
-  cdb_make maker;
-  if (file < 0 || cdb_make_start(&maker, file) != 0) fail("cannot make " + path);
-  for (const Entry& entry : entries) {
-    cdb_make_add(&maker, entry.word.data(), static_cast<unsigned>(entry.word.size()),
-                 entry.text.data(), static_cast<unsigned>(entry.text.size()));
-  }
-  if (cdb_make_finish(&maker) != 0) fail("cannot write " + path);
-  static cdb database;
-  if (cdb_init(&database, file) != 0) fail("cannot open " + path);
-  add_walk("cdb", [](auto visit) {
+void add_peer(const std::string& name, auto& peer) {
+  add_walk(name, [&peer](auto visit) {
     static char text[DIC_ENTRY_ROOM];
-    unsigned position;
-    cdb_seqinit(&position, &database);
-    while (cdb_seqnext(&position, &database) > 0) {
-      const unsigned size = cdb_datalen(&database);
-      cdb_read(&database, text, size, cdb_datapos(&database));
+    peer.walk(text, [&](std::size_t size) {
       benchmark::DoNotOptimize(text);
       visit(size + 1);
-    }
-  });
-}
-
-void add_lmdb(const std::string& path, const std::vector<Entry>& entries) {
-  MDB_env* environment = nullptr;
-  MDB_txn* transaction = nullptr;
-  static MDB_dbi database;
-  static MDB_txn* reading;
-  const auto check = [](int result) {
-    if (result != 0) fail("LMDB: " + std::string(mdb_strerror(result)));
-  };
-  const auto value = [](const std::string& text) {
-    return MDB_val{text.size(), const_cast<char*>(text.data())};
-  };
-  check(mdb_env_create(&environment));
-  check(mdb_env_set_mapsize(environment, std::size_t{256} << 20));
-  check(mdb_env_open(environment, path.c_str(), MDB_NOSUBDIR | MDB_NOSYNC, 0600));
-  check(mdb_txn_begin(environment, nullptr, 0, &transaction));
-  check(mdb_dbi_open(transaction, nullptr, 0, &database));
-  for (const Entry& entry : entries) {
-    MDB_val key = value(entry.word), data = value(entry.text);
-    check(mdb_put(transaction, database, &key, &data, 0));
-  }
-  check(mdb_txn_commit(transaction));
-  check(mdb_txn_begin(environment, nullptr, MDB_RDONLY, &reading));
-  add_walk("lmdb", [](auto visit) {
-    static char text[DIC_ENTRY_ROOM];
-    MDB_cursor* cursor = nullptr;
-    MDB_val key, data;
-    mdb_cursor_open(reading, database, &cursor);
-    while (mdb_cursor_get(cursor, &key, &data, MDB_NEXT) == 0) {
-      std::copy_n(static_cast<const char*>(data.mv_data), data.mv_size, text);
-      benchmark::DoNotOptimize(text);
-      visit(data.mv_size + 1);
-    }
-    mdb_cursor_close(cursor);
+    });
   });
 }
 
@@ -231,16 +174,16 @@ void add_lmdb(const std::string& path, const std::vector<Entry>& entries) {
 int main(int count, char** arguments) {
   benchmark::Initialize(&count, arguments);
   if (count < 2) fail("usage: set_bench DICTIONARY.dic... [benchmark options]");
-  std::string directory = (std::filesystem::temp_directory_path() / "kz-bench-XXXXXX").string();
-  if (mkdtemp(directory.data()) == nullptr) fail("no temporary directory");
+  const peers::Directory directory;
   const std::vector<Entry> entries = read_entries(arguments[1]);
-  const std::vector<std::string> names = copies(arguments[1], directory);
+  const std::vector<std::string> names = copies(arguments[1], directory.path());
   const std::vector<std::string> misses = shuffled(entries, false);
   add_searches(names, misses);
   add_loading(names);
   for (int i = 1; i < count; ++i) add_iterator(arguments[i]);
-  add_lmdb(directory + "/entries.mdb", entries);
-  add_cdb(directory + "/entries.cdb", entries);
+  peers::Cdb cdb(directory.file("entries.cdb"), entries);
+  peers::Lmdb lmdb(directory.file("entries.mdb"), entries);
+  add_peer("cdb", cdb);
+  add_peer("lmdb", lmdb);
   benchmark::RunSpecifiedBenchmarks();
-  std::filesystem::remove_all(directory);
 }
