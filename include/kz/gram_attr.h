@@ -38,7 +38,7 @@ KZ_API void SetGrSrcAttr1(GRAMINFO* gram);
 /* The paradigm value of a number and a base; 0xFFFFFFFF, no paradigm, for the number -1. */
 KZ_API uint32_t MakeParadigm(int16_t number, int16_t base);
 
-/* The parts of a paradigm value. */
+/* The parts of a paradigm value: the number, -1 for no paradigm, and the base. */
 KZ_API int16_t GetParaNum(uint32_t paradigm);
 KZ_API uint16_t GetParaBase(uint32_t paradigm);
 

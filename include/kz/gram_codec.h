@@ -38,8 +38,8 @@ KZ_API char* GramToStr(int16_t code, const GRAMINFO* gram, const SEMANTICS* sema
  * letters take the place of what was there.
  *
  * `code_out` receives the code by which a letter was last read; it keeps its value when no letter
- * was, or when the code has no group. `latin_area` receives the tag "&" with a Latin letter: the
- * letter in the first byte, the digit behind it, if there is one, in the second.
+ * was, or when the code has no group. `latin_area`, two bytes, receives the tag "&" with a Latin
+ * letter: the letter in the first byte, the digit behind it, if there is one, in the second.
  *
  * Returns the position at the "|" or the final zero, or behind the ")", "]" or "\" that ended it;
  * null for a null text. What goes to another null pointer is dropped. */

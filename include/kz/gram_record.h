@@ -104,6 +104,7 @@ class KZ_API CGramInfo : public ZCObject {
   CGramInfo& operator=(const CGramInfo&) = default;
   ~CGramInfo() override;
 
+  /* Make all zeros: both records, the GRAMINFO, the SEMANTICS. */
   void ClearAllGramInfo();
   void ClearGramInfo();
   void ClearSemantics();
