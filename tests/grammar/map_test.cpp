@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <random>
 #include <string>
 #include <vector>
@@ -216,9 +217,10 @@ TEST(RestOfTranslation, IsAppendedAboveLevelFour) {
               {4, "abc", "x"},     {0, "2", "x"},        {5, nullptr, "x"}};
   for (const auto& [level, rest, wanted] : rows) {
     Word word;
-    word.view().level() = static_cast<std::uint8_t>(level);
+    word.record()[15] = static_cast<std::uint8_t>(level);
     re_set_egram(word.record(), 'N', rest);  // no buffer
-    word.view().set_text_buffer(word.buffer.data());
+    char* const buffer = word.buffer.data();
+    std::memcpy(word.record() + 269, &buffer, sizeof buffer);
     word.buffer.replace(0, 2, std::string("x") + '\0');
     re_set_egram(word.record(), 'N', rest);
     EXPECT_STREQ(word.buffer.c_str(), wanted);
