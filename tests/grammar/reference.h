@@ -37,10 +37,16 @@ struct Bit {
 struct Class {
   std::string name, code, effects;
 };
+struct Field {
+  std::string name, type;  // of the word record
+  std::size_t offset;
+};
 struct Page {
   std::map<std::string, std::vector<std::string>> blocks;  // fenced lines, by the fence's name
   std::vector<Bit> bits;
   std::vector<Class> classes[2];  // by kind
+  std::vector<Field> fields;
+  std::map<std::string, std::string> mapped;  // the codes of a mapping function
 };
 
 inline std::vector<std::string> cells_of(const std::string& row) {
@@ -56,13 +62,20 @@ inline std::vector<std::string> cells_of(const std::string& row) {
 inline Page read_page() {
   Page page;
   std::ifstream in(std::filesystem::path(__FILE__).parent_path() / "../../docs/grammar.md");
-  std::string fence;
+  std::string fence, heading;
   for (std::string utf8; std::getline(in, utf8);) {
     const std::string line = ansi(utf8);
     if (line.starts_with("```")) {
       fence = line.substr(3);
     } else if (!fence.empty()) {
       page.blocks[fence].push_back(line);
+    } else if (line.starts_with('#')) {
+      heading = line.substr(line.find(' ') + 1);
+    } else if (line.starts_with("| `")) {
+      page.mapped[heading] += cells_of(line)[0];
+    } else if (heading == "The word record" && line.starts_with("| ")) {
+      const auto cells = cells_of(line);
+      if (cells[0] != "Field") page.fields.push_back({cells[0], cells[2], std::stoul(cells[1])});
     } else if (line.size() > 2 && line[0] == '|' && line[2] >= '0' && line[2] <= '9') {
       const auto cells = cells_of(line);
       const auto number = [&](std::size_t i) { return static_cast<unsigned>(std::stoi(cells[i])); };
