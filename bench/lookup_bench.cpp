@@ -18,7 +18,7 @@
 
 namespace {
 
-using peers::fail;
+using scratch::fail;
 
 struct Entries {
   std::vector<std::string> hits;    // every headword once, shuffled
@@ -99,7 +99,7 @@ int main(int count, char** arguments) {
   std::printf("%zu headwords\n", entries.hits.size());
   for (int i = 1; i < count; ++i) add_dictionary(arguments[i], entries);
 
-  const peers::Directory directory;
+  const scratch::Directory directory;
   peers::Cdb cdb(directory.file("entries.cdb"), entries.texts);
   peers::Lmdb lmdb(directory.file("entries.mdb"), entries.texts);
   add("cdb", entries, [&cdb](const std::string& word) { return cdb.find(word) != nullptr; });

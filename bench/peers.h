@@ -7,38 +7,13 @@
 #include <lmdb.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
-#include <system_error>
+
+#include "bench/scratch.h"
 
 namespace peers {
 
-[[noreturn]] inline void fail(const std::string& what) {
-  std::fprintf(stderr, "%s: %s\n", program_invocation_short_name, what.c_str());
-  std::exit(1);
-}
-
-// A directory for the databases, removed at the end.
-class Directory {
- public:
-  Directory() : path_((std::filesystem::temp_directory_path() / "kz-bench-XXXXXX").string()) {
-    if (mkdtemp(path_.data()) == nullptr) fail("no temporary directory");
-  }
-  Directory(const Directory&) = delete;
-  Directory& operator=(const Directory&) = delete;
-  ~Directory() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  const std::string& path() const { return path_; }
-  std::string file(const std::string& name) const { return path_ + "/" + name; }
-
- private:
-  std::string path_;
-};
+using scratch::fail;
 
 // A constant database (tinycdb). `entries` is a range of pairs of word and text.
 class Cdb {

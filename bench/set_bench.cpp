@@ -20,7 +20,7 @@
 
 namespace {
 
-using peers::fail;
+using scratch::fail;
 
 constexpr std::int16_t kAll = 0;  // the list of every dictionary of the queue
 constexpr std::size_t kQueue = 10;
@@ -174,7 +174,7 @@ void add_peer(const std::string& name, auto& peer) {
 int main(int count, char** arguments) {
   benchmark::Initialize(&count, arguments);
   if (count < 2) fail("usage: set_bench DICTIONARY.dic... [benchmark options]");
-  const peers::Directory directory;
+  const scratch::Directory directory;
   const std::vector<Entry> entries = read_entries(arguments[1]);
   const std::vector<std::string> names = copies(arguments[1], directory.path());
   const std::vector<std::string> misses = shuffled(entries, false);

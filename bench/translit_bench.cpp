@@ -1,7 +1,11 @@
-// Smart transliteration of English text, beside the letter-by-letter one and a plain copy.
+// Smart transliteration of English text, beside the letter-by-letter one, ICU's and a plain copy.
 #include <benchmark/benchmark.h>
+#include <unicode/translit.h>
+#include <unicode/unistr.h>
 
+#include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -43,6 +47,21 @@ void letter_by_letter(benchmark::State& state) {
   run(state, [](const char* from, char* to) { return strtransliterate(from, to, "FRRU", 0); });
 }
 
+// ICU's rules look at neighbours, too, but not at whole words.
+void icu_latin_cyrillic(benchmark::State& state) {
+  UErrorCode error = U_ZERO_ERROR;
+  const std::unique_ptr<icu::Transliterator> rules(
+      icu::Transliterator::createInstance("Latin-Cyrillic", UTRANS_FORWARD, error));
+  if (U_FAILURE(error)) std::abort();
+  const icu::UnicodeString source(english_text().c_str());
+  for (auto _ : state) {
+    icu::UnicodeString text = source;
+    rules->transliterate(text);
+    benchmark::DoNotOptimize(text);
+  }
+  state.SetBytesProcessed(state.iterations() * source.length());
+}
+
 void plain_copy(benchmark::State& state) {
   run(state, [](const char* from, char* to) { return stpcpy(to, from); });
 }
@@ -50,6 +69,7 @@ void plain_copy(benchmark::State& state) {
 BENCHMARK(smart);
 BENCHMARK(smart_with_capitals);
 BENCHMARK(letter_by_letter);
+BENCHMARK(icu_latin_cyrillic);
 BENCHMARK(plain_copy);
 
 }  // namespace
