@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <memory>
 #include <random>
 #include <set>
@@ -10,8 +11,10 @@
 #include <vector>
 
 #include "kz/dic_error.h"
+#include "kz/dic_index.h"
 #include "kz/dictionary.h"
 #include "kz/entry.h"
+#include "kz/file.h"
 #include "tests/dictionary/dictionary_file.h"
 #include "tests/dictionary/slow_dictionary.h"
 #include "tests/support/temp_dir.h"
@@ -487,6 +490,30 @@ TEST_F(SmallDictionary, AccessorsAnswerForMissingHandles) {
   EXPECT_EQ(DicSizeX(dictionary, "Word"), -1);
   EXPECT_EQ(DicLetterOffsetX(dictionary, 'w'), -1);
   EXPECT_EQ(DicLetterNumberX(dictionary, 0), 0);
+}
+
+TEST(DictionaryGroups, PrintTheirPlaces) {
+  const TempDir directory;
+  DictionaryFile file;
+  file.records = {{"ad", "Nx"}, {"ah", "Ny"}, {"b", "Nz"}};
+  const std::string path = directory.file("groups.dic");
+  file.write(path);
+  const Dictionary dictionary(DicOpen(path.c_str(), 0));
+  ASSERT_NE(dictionary, nullptr);
+  ZCFile list;
+  const std::string text = directory.file("groups.txt");
+  ASSERT_TRUE(list.Open(text.c_str(), 0x1002));
+  PrintAllOffsets(dictionary.get(), &list);
+  list.Close();
+  // Six bytes each behind the header of 154; two line feeds end the records. A letter's head leads
+  // to its first group.
+  std::ifstream in(text);
+  const std::string lines(std::istreambuf_iterator<char>(in), {});
+  EXPECT_EQ(lines,
+            "*154     'a  ' 6      \n*154     'ad ' 6      \n*160     'ah ' 6      \n*166     'b  "
+            "' 7      \n");
+  PrintAllOffsets(nullptr, nullptr);
+  PrintAllOffsets(dictionary.get(), nullptr);
 }
 
 }  // namespace

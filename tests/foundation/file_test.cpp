@@ -141,6 +141,11 @@ TEST_F(FileTest, SeekMovesFromAllOriginsAndStaysOnFailure) {
   char byte = 0;
   EXPECT_EQ(f.ReadHuge(&byte, 1), 1U);
   EXPECT_EQ(byte, '0');
+  f.WriteHuge("ab", 2);
+  f.SeekToBegin();
+  char bytes[5] = {};
+  EXPECT_EQ(f.ReadHuge(bytes, 4), 4U);
+  EXPECT_STREQ(bytes, "0ab3");
 }
 
 TEST_F(FileTest, PositionsReachToFourGigabytes) {
