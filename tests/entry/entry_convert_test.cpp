@@ -13,6 +13,7 @@
 #include "kz/charclass.h"
 #include "kz/codepage.h"
 #include "kz/entry.h"
+#include "tests/support/utf8.h"
 #include "text/literal.h"
 
 namespace {
@@ -251,14 +252,7 @@ Pieces encoded(std::string_view utf8, Page page) {
     pieces.push_back(piece);
     word.clear();
   };
-  for (std::size_t i = 0; i < utf8.size(); ++i) {
-    char32_t c = static_cast<unsigned char>(utf8[i]);
-    if (c >= 0xE0) {
-      c = (c & 15) << 12 | (utf8[i + 1] & 63u) << 6 | (utf8[i + 2] & 63u);
-      i += 2;
-    } else if (c >= 0xC0) {
-      c = (c & 31) << 6 | (utf8[++i] & 63u);
-    }
+  for (const char32_t c : kz::test::decoded(utf8)) {
     if (c < 0x80 && !_isalpha(static_cast<int>(c))) {
       end_word();
       pieces.push_back(russian(std::string(1, static_cast<char>(c))));

@@ -7,20 +7,11 @@
 #include <string>
 
 #include "kz/entry.h"
-#include "text/literal.h"
+#include "tests/support/utf8.h"
 
 namespace {
 
-// Windows-1251 bytes of a UTF-8 text with letters of two bytes at most.
-std::string encoded(const std::string& utf8) {
-  std::string result;
-  for (std::size_t i = 0; i < utf8.size(); ++i) {
-    char32_t c = static_cast<unsigned char>(utf8[i]);
-    if (c >= 0xC0) c = (c & 31) << 6 | (static_cast<unsigned char>(utf8[++i]) & 63);
-    result += static_cast<char>(kz::to_1251(c));
-  }
-  return result;
-}
+using kz::test::encoded_1251;
 
 std::string shown(CDicEntry& entry) {
   std::string result;
@@ -65,10 +56,10 @@ TEST(EntryFormatPage, ShowsWhatTheLibraryDoes) {
     std::string expected;
     while (std::getline(page, line) && line != "```") expected += line + '\n';
     CDicEntry entry(direction.c_str(), kind);
-    entry.Build(encoded(full).c_str(), 0, nullptr, nullptr);
-    EXPECT_EQ(shown(entry), encoded(expected)) << full;
+    entry.Build(encoded_1251(full).c_str(), 0, nullptr, nullptr);
+    EXPECT_EQ(shown(entry), encoded_1251(expected)) << full;
     entry.Merge();
-    EXPECT_EQ(entry.GetFullEntry(nullptr), encoded(full));
+    EXPECT_EQ(entry.GetFullEntry(nullptr), encoded_1251(full));
   }
   EXPECT_GE(examples, 8);
 }

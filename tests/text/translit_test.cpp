@@ -14,6 +14,7 @@
 #include "kz/charclass.h"
 #include "kz/compare.h"
 #include "kz/special.h"
+#include "tests/support/utf8.h"
 #include "tests/text/reference.h"
 #include "tests/text/text_at_page_end.h"
 #include "text/literal.h"
@@ -21,6 +22,7 @@
 namespace {
 
 using kz::operator""_1251;
+using kz::test::encoded_1251;
 
 constexpr const char* no_text = nullptr;
 constexpr std::string_view russian_capitals = U"АБВГДЕЁЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ"_1251;
@@ -318,17 +320,6 @@ TEST(SmartTranslit, FollowsItsRulesInRandomTexts) {
   }
 }
 
-// Windows-1251 bytes of a UTF-8 text with letters of two bytes at most.
-std::string encoded(const std::string& utf8) {
-  std::string result;
-  for (std::size_t i = 0; i < utf8.size(); ++i) {
-    char32_t c = static_cast<unsigned char>(utf8[i]);
-    if (c >= 0xC0) c = (c & 31) << 6 | (static_cast<unsigned char>(utf8[++i]) & 63);
-    result += static_cast<char>(kz::to_1251(c));
-  }
-  return result;
-}
-
 TEST(SmartTranslit, GivesTheExamplesOfItsPage) {
   const auto root = std::filesystem::path(__FILE__).parent_path() / "../..";
   std::ifstream page(root / "docs/conversions.md");
@@ -339,8 +330,8 @@ TEST(SmartTranslit, GivesTheExamplesOfItsPage) {
     const std::string english = line.substr(0, line.find("  "));
     std::string russian = line.substr(line.find_first_not_of(' ', english.size()));
     if (russian.front() == '"') russian = russian.substr(1, russian.size() - 2);
-    EXPECT_EQ(smart(english, 1), encoded(russian)) << english;
-    std::string small = encoded(russian);
+    EXPECT_EQ(smart(english, 1), encoded_1251(russian)) << english;
+    std::string small = encoded_1251(russian);
     std::string small_english = english;
     __strlwr(small_english.data());
     EXPECT_EQ(smart(small_english, 1), strruansilwr(small.data())) << english;
