@@ -8,14 +8,17 @@
 
 namespace kz::entry {
 
-// Appends to a caller's buffer with enough room, which may be the one that is being read as long as
-// the output does not overtake the input.
+// Appends to a caller's buffer, which may be the one that is being read as long as the output does
+// not overtake the input. What comes when `room` characters stand there is dropped.
 class BlankWriter {
  public:
-  explicit BlankWriter(char* begin) : begin_(begin), end_(begin) {}
+  BlankWriter(char* begin, std::size_t room) : begin_(begin), end_(begin), limit_(begin + room) {}
 
-  void put(char c) { *end_++ = c; }
+  void put(char c) {
+    if (!is_full()) *end_++ = c;
+  }
   void put(std::string_view text) {
+    text = text.substr(0, static_cast<std::size_t>(limit_ - end_));
     if (text.empty()) return;
     std::memmove(end_, text.data(), text.size());
     end_ += text.size();
@@ -32,6 +35,7 @@ class BlankWriter {
     if (ends_with_blank()) --end_;
   }
 
+  bool is_full() const { return end_ == limit_; }
   std::string_view text() const { return {begin_, static_cast<std::size_t>(end_ - begin_)}; }
   char* end() const { return end_; }
 
@@ -40,6 +44,7 @@ class BlankWriter {
 
   char* begin_;
   char* end_;
+  char* limit_;
 };
 
 }  // namespace kz::entry

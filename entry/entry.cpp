@@ -8,6 +8,7 @@
 #include "entry/pack.h"
 #include "entry/split.h"
 #include "entry/string_view.h"
+#include "foundation/string_data.h"
 
 using kz::entry::assign;
 using kz::entry::view;
@@ -74,8 +75,9 @@ void CDicEntry::Merge() {
     FullEntry.Empty();
     return;
   }
-  kz::join_entry(parts, FullEntry.GetBuffer(static_cast<int>(size)));
-  FullEntry.ReleaseBuffer(static_cast<int>(size));
+  const int length = kz::to_length(size);
+  kz::join_entry(parts, FullEntry.GetBuffer(length));
+  FullEntry.ReleaseBuffer(length);
 }
 
 void CDicEntry::MakeAttr() { assign(Attr, kz::without_brackets(view(AttrView))); }

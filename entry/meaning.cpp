@@ -1,6 +1,5 @@
 // CDicEntryMeaning: one meaning and its synonyms.
 #include <algorithm>
-#include <cstring>
 
 #include "entry/language_field.h"
 #include "entry/string_view.h"
@@ -17,18 +16,13 @@ kz::entry::CodeLetterTest code_test(const char* language) {
   return kz::entry::target_code_test(kz::entry::Direction(language));
 }
 
-using Form = std::string_view (*)(std::string_view, const kz::entry::CodeLetterTest&, char*);
+using Form = std::string_view (*)(std::string_view, const kz::entry::CodeLetterTest&,
+                                  kz::SynonymRoom&);
 
 // Makes `work` the synonym in that form.
 void store(Form form, std::string_view synonym, const char* language, ZCString& work) {
-  if (synonym.empty()) {
-    work.Empty();
-    return;
-  }
-  char* const room = work.GetBuffer(static_cast<int>(kz::synonym_room(synonym.size())));
-  const std::string_view finished = form(synonym, code_test(language), room);
-  std::memmove(room, finished.data(), finished.size());
-  work.ReleaseBuffer(static_cast<int>(finished.size()));
+  kz::SynonymRoom room;
+  kz::entry::assign(work, form(synonym, code_test(language), room));
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ char segment_end(char c) {
 
 char* pack_entry(std::string_view source, char target_letter, char* out_begin) {
   const entry::CodeLetterTest new_part = entry::new_part_test(target_letter);
-  entry::BlankWriter out(out_begin);
+  entry::BlankWriter out(out_begin, source.size());
   std::size_t i = 0;
   const auto skip_blank = [&] {
     if (char_at(source, i) == ' ') ++i;

@@ -27,12 +27,13 @@ std::string_view finish(std::string_view text, std::string_view leading) {
 
 }  // namespace
 
-std::string_view reduce_synonym(std::string_view synonym, const CodeLetterTest& code, char* room) {
-  BlankWriter out(room);
+std::string_view reduce_synonym(std::string_view synonym, const CodeLetterTest& code,
+                                SynonymRoom& room) {
+  BlankWriter out(room.data(), room.size());
   std::size_t i = 0;
   if (const std::size_t phrase = synonym.find('W'); phrase != kNotFound)
     i = char_at(synonym, phrase + 1) == ')' ? phrase + 2 : phrase + 1;
-  while (i < synonym.size()) {
+  while (i < synonym.size() && !out.is_full()) {
     const char c = synonym[i];
     if (c == '#') {
       const std::size_t closing = synonym.find('#', i + 1);
@@ -56,8 +57,9 @@ std::string_view reduce_synonym(std::string_view synonym, const CodeLetterTest& 
   return finish(out.text(), " )");
 }
 
-std::string_view space_synonym(std::string_view synonym, const CodeLetterTest& code, char* room) {
-  BlankWriter out(room);
+std::string_view space_synonym(std::string_view synonym, const CodeLetterTest& code,
+                               SynonymRoom& room) {
+  BlankWriter out(room.data(), room.size());
   std::size_t i = 0;
   // Copies up to `end`, with a blank in front or behind where asked and none stands there yet.
   const auto copy_to = [&](std::size_t end, bool blank_before, bool blank_after) {
@@ -66,7 +68,7 @@ std::string_view space_synonym(std::string_view synonym, const CodeLetterTest& c
     i = end;
     if (blank_after && i < synonym.size() && synonym[i] != ' ') out.put(' ');
   };
-  while (i < synonym.size()) {
+  while (i < synonym.size() && !out.is_full()) {
     switch (synonym[i]) {
       case 'W':
         out.put(' ');

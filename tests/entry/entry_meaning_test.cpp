@@ -161,6 +161,18 @@ TEST(EntryMeanings, HoldSynonymsOfAtMost355FinishedCharacters) {
     EXPECT_EQ(built("ENRU", kind, 'N', letters + letters), "{}" + letters + ";/");
   }
   EXPECT_EQ(built("ENRU", 'S', 'N', letters + letters), "{}" + letters + letters + ";/");
+  MarkerText random(9);
+  for (std::size_t size = 300; size < 400; ++size) {
+    const Text tail = Text(size, U'я'_1251) + random(size / 8) + "#/" + random(size / 8) + "/";
+    const reference::Body reduced{"ENRU", 'C', 'N'};
+    const reference::Body spaced{"ENRU", 'c', 'N'};
+    for (const reference::Body& body : {reduced, spaced}) {
+      for (const char* head : {"", " ", ")", "("}) {
+        const Text whole = head + tail;
+        EXPECT_EQ(built("ENRU", body.kind, 'N', whole), meanings(body, body.parse(whole, "N")));
+      }
+    }
+  }
 }
 
 TEST(EntryMeanings, KeepEveryAttributeBlockInItsPlace) {
