@@ -50,7 +50,8 @@ KZ_API char* GetInf(char* text, KzWordRecord* word);
 KZ_API const char* GetExtSyn(const char* text, KzWordRecord* word);
 
 /* The '[' of an attribute block among the first 7 characters, before any '{', ']', ';', blank or
- * backslash; the text itself when there is none or it has fewer than two characters. */
+ * backslash; the text itself when there is none or it has fewer than two characters. Null gives
+ * null. */
 KZ_API const char* GetAttrBegin(const char* text);
 
 /* The part code under which synonyms are grouped: 'V' for a part text that begins with one of
@@ -60,19 +61,25 @@ KZ_API int16_t DicEntryGetSynPartCode(const char* part_text);
 /* The character at `position` (1 to 255) when it opens a new part, else 0. `language` is a language
  * or direction code; its third letter, or else its first, names the target language, and null means
  * Russian. Target Russian: '&', or a Latin letter that no digit follows. Target English: a Latin
- * capital or any Russian letter. Other targets: a Latin capital. `part` is not used. */
+ * capital or any Russian letter. Other targets: a Latin capital. `part` is not used. A null
+ * position gives 0. */
 KZ_API int16_t IsDicEntryNewPart(const char* position, const char* language, int part);
 
 /* The start of the next part at or after `position`, or the terminating zero. `part` is the part
  * code of the entry: 'W' stops at code letters, blanks and # \ ~ / ; & ; 'w' at code letters,
  * blanks, '#' and '&'; any other at code letters, '#' and backslashes, with the part after a 'W'
- * starting behind the next '/'. Brace and bracket groups are passed over. `language` as above. */
+ * starting behind the next '/'. Brace and bracket groups are passed over. Code letters are Latin
+ * ones for the target Russian; Latin capitals and, but for part 'W', Russian letters for English;
+ * Latin capitals for others. For the target Russian and parts other than 'W' and 'w' a Latin letter
+ * with a digit behind it is none: it is passed over with the digit and one more character.
+ * `language` as above. Null gives null. */
 KZ_API const char* GetNextPart(const char* position, const char* language, int part);
 
 /* Packs a displayed text into entry text: removes the blanks that display puts around markers and
  * code letters. Segments between '#' and blocks in brackets or braces are copied as they stand; one
  * that is not closed ends the packing. `destination` needs the length of the source plus one and
- * may be the source itself; it is returned. `language` as above, `part` is not used. */
+ * may be the source itself; it is returned. `language` as above, `part` is not used. A null source
+ * counts as empty; a null destination gives null. */
 KZ_API char* PackEntry(const char* source, char* destination, const char* language, int part);
 
 #ifdef __cplusplus
