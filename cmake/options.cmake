@@ -22,6 +22,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LES
   # These releases take the inlined copying of std::string for overlapping copies.
   target_compile_options(kz_options INTERFACE -Wno-restrict)
 endif()
+if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+  # GCC's -Wconversion leaves changes of sign alone in C++; so does this.
+  target_compile_options(kz_options INTERFACE -Wno-sign-conversion)
+endif()
 # 32-bit inodes, sizes and times of the operating system's own records must not limit a 32-bit build.
 target_compile_definitions(kz_options INTERFACE _FILE_OFFSET_BITS=64 _TIME_BITS=64)
 
@@ -38,4 +42,8 @@ elseif(KZ_SANITIZE STREQUAL "thread")
   add_link_options(-fsanitize=thread)
 elseif(KZ_SANITIZE)
   message(FATAL_ERROR "KZ_SANITIZE is '${KZ_SANITIZE}'; it takes address or thread")
+endif()
+if(KZ_BUILD_FUZZ)
+  # The library tells the fuzzer which of its code an input reached.
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
