@@ -41,6 +41,15 @@ std::optional<std::string> create_beside(const fs::path& target) {
   return std::nullopt;
 }
 
+// Where a chain of links to a file that is not there leads.
+fs::path behind_links(fs::path path) {
+  std::error_code error;
+  while (fs::is_symlink(fs::symlink_status(path, error))) {
+    path = path.parent_path() / fs::read_symlink(path, error);
+  }
+  return path;
+}
+
 bool write_and_rename(const fs::path& target, fs::perms permissions, std::string_view bytes) {
   const auto unfinished = create_beside(target);
   if (!unfinished) return false;
@@ -60,7 +69,7 @@ bool write_whole_file(const char* path, std::string_view bytes) noexcept {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
   if (status.type() == fs::file_type::not_found) {
-    return write_and_rename(path, fs::perms::unknown, bytes);
+    return write_and_rename(behind_links(path), fs::perms::unknown, bytes);
   }
   if (!fs::is_regular_file(status)) return write_into(path, bytes);
   // Held until the end: nobody else may use the file that is about to be replaced.

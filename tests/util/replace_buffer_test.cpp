@@ -293,6 +293,13 @@ TEST_F(ReplaceBufferTest, FilesAreWrittenInOneStep) {
   EXPECT_EQ(read("list.txt"), "new");
   EXPECT_TRUE(std::filesystem::is_symlink(dir_.file("link")));
   EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+
+  std::filesystem::remove(path);  // also a link to a file that is yet to be made
+  std::filesystem::create_symlink(dir_.file("link"), dir_.file("second"));
+  EXPECT_EQ(buffer_.Save(dir_.file("second").c_str()), 0);
+  EXPECT_EQ(read("list.txt"), "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(dir_.file("link")));
+  std::filesystem::remove(dir_.file("second"));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.file("")), {}), 2);
 }
 
