@@ -42,8 +42,8 @@ KZ_API int16_t kz_comm_init_kernel(void* kernel);
 /* The matching end call; it does nothing. */
 KZ_API void kz_comm_free_kernel(void);
 
-/* Creates the table of engines, which always has room for the handles 0 and 1. 1 when it exists
- * now, 0 when memory runs out. */
+/* Creates the table of engines, which has room for the handles 0 and 1 whatever the number of
+ * entries asked for. 1 when it exists now, 0 when memory runs out. */
 KZ_API int16_t kz_data_init(int16_t entries);
 /* Releases the table. Ids that were taken stay taken. */
 KZ_API void kz_data_free(void);

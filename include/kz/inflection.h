@@ -39,6 +39,7 @@ class KZ_API CGrSrcWordObj : public ZCObject {
   std::uint8_t length;             // of the ending, set when a ".Dat" file is written or read
 };
 
+// The entries of a language by their endings.
 class KZ_API CGrSrcWordFlex : public ZCObject {
  public:
   // An empty table.
@@ -68,9 +69,10 @@ class KZ_API CGrSrcWordFlex : public ZCObject {
   char* FindStrAttr(const char* word, char* output, std::int16_t mode);
 
   // Writes the ending and the attributes of an entry in the words of the text file and returns the
-  // output, which holds GR_SRC_FLEX_STRING_SIZE bytes: "ending name name number name | name ...".
-  // Paradigm letters are left out, an index without a name is written as "?". Null and the empty
-  // text for a null entry.
+  // output, which holds GR_SRC_FLEX_STRING_SIZE bytes: "ending name name number name | name ...",
+  // up to the first record without a word class; nothing when that is the first one. Paradigm
+  // letters are left out, an index without a name is written as "?". Null and the empty text for a
+  // null entry.
   char* GetStrAttr(const CGrSrcWordObj* entry, char* output);
 
   // Iteration in the order of a map with 17 buckets (kz/map.h). The first entry, loading an empty
@@ -82,7 +84,7 @@ class KZ_API CGrSrcWordFlex : public ZCObject {
  protected:
   // Loads the table from the full path of its ".Dat" file, by the load flag; results as Load.
   std::int16_t _LoadFlex(const char* path);
-  // Adds the entry of one line of the text file, in place of one with the same ending. 1 when the
+  // Adds the entry of one line of the text file; one with the same ending is deleted. 1 when the
   // line gave an entry; 0 for an ending of 80 characters or more or without attributes.
   std::int16_t GetWord(const char* line);
 

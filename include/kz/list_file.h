@@ -17,6 +17,7 @@
 #include "kz/object.h"
 #include "kz/string.h"
 
+// A word and what it stands for.
 class KZ_API CListItem : public ZCObject {
  public:
   // A pair that holds copies.
@@ -32,6 +33,7 @@ class KZ_API CListItem : public ZCObject {
   ZCString replacement_;
 };
 
+// The pairs of one or more files, one of which is the current item; at first the first one.
 class KZ_API CListFile {
  public:
   // An empty list.

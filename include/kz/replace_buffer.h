@@ -8,9 +8,9 @@
  *   if (list.Load("replace.txt") == 0) ChangeWord(&list, source, output);
  *
  * The text begins with "\r\n", lines end with "\r\n". A line is a word, or a word, "=" and its
- * replacement, which may be empty. The text holds fewer than 16,000 characters behind the leading
- * "\r\n". Positions point into the block of the buffer and are valid until the buffer changes. A
- * buffer serves one thread at a time. */
+ * replacement, which may be empty. The text holds fewer than 16,000 characters behind its leading
+ * white space. Positions point into the block of the buffer and are valid until the buffer changes.
+ * A buffer serves one thread at a time. */
 #ifndef KZ_REPLACE_BUFFER_H
 #define KZ_REPLACE_BUFFER_H
 
@@ -31,6 +31,7 @@ class WordReplacer;     // replaces the words of a buffer in one pass over a tex
 struct FindBufferCore;  // works on the block of a buffer
 }  // namespace kz
 
+// A list of words and their replacements.
 class KZ_API CFindBuffer : public ZCObject {
  public:
   // A buffer without a block. The mode is kept for the caller.
@@ -98,6 +99,8 @@ class KZ_API CFindBuffer : public ZCObject {
   char* First(char* output);
   char* Next(char* output);
 
+  // Whether the text was changed by SetBuffer since it was loaded or saved, for the caller to set
+  // after other changes; the number of successful calls of Replace.
   std::int16_t GetModified() const;
   void SetModified(std::int16_t modified);
   std::int16_t GetCorrected() const;
