@@ -54,6 +54,10 @@ bool write_and_rename(const fs::path& target, fs::perms permissions, std::string
   const auto unfinished = create_beside(target);
   if (!unfinished) return false;
   std::error_code error;
+  if (permissions != fs::perms::unknown) {
+    // Until it has its own, nobody else reads what may be private.
+    fs::permissions(*unfinished, fs::perms::owner_read | fs::perms::owner_write, error);
+  }
   if (write_into(unfinished->c_str(), bytes)) {
     if (permissions != fs::perms::unknown) fs::permissions(*unfinished, permissions, error);
     fs::rename(*unfinished, target, error);
