@@ -1,5 +1,5 @@
 // ZCMapStringToOb: chains of associations in a hash table.
-#include "kz/map.h"
+#include "foundation/map_core.h"
 
 #include <algorithm>
 #include <bit>
@@ -29,17 +29,25 @@ struct MapCore {
   using Association = Map::Association;
   using Block = Map::Block;
 
+  static std::uint32_t bucket_of(const Map& map, const char* key) {
+    return map.HashKey(key) % map.tableSize_;
+  }
+
   static Association* find(const Map& map, const char* key) {
     return map.hashTable_ == nullptr ? nullptr : find_in(map, bucket_of(map, key), key);
   }
 
   static Association& find_or_add(Map& map, const char* key) {
     const std::uint32_t bucket = bucket_of(map, key);
+    Association* const found = map.hashTable_ != nullptr ? find_in(map, bucket, key) : nullptr;
+    return found != nullptr ? *found : add(map, bucket, key);
+  }
+
+  // Adds a key that is not there.
+  static Association& add(Map& map, std::uint32_t bucket, const char* key) {
     if (map.hashTable_ == nullptr) {
       map.hashTable_ = allocate_table(map.tableSize_);
       if (map.hashTable_ == nullptr) std::terminate();
-    } else if (Association* found = find_in(map, bucket, key)) {
-      return *found;
     }
     if (map.freeList_ == nullptr) add_block(map);
     Association& added = *map.freeList_;
@@ -109,10 +117,6 @@ struct MapCore {
   static Association* association_at(POSITION at) { return reinterpret_cast<Association*>(at); }
 
  private:
-  static std::uint32_t bucket_of(const Map& map, const char* key) {
-    return map.HashKey(key) % map.tableSize_;
-  }
-
   static bool has_key(const Association& association, const char* key) {
     return std::strcmp(association.key, key) == 0;
   }
@@ -139,6 +143,10 @@ struct MapCore {
     }
   }
 };
+
+void add_new_key(ZCMapStringToOb& map, const char* key, ZCObject* value) {
+  MapCore::add(map, MapCore::bucket_of(map, key), key).value = value;
+}
 
 }  // namespace kz
 

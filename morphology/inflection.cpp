@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "foundation/map_core.h"
 #include "kz/charclass.h"
 #include "kz/dic_error.h"
 #include "kz/file.h"
@@ -53,12 +54,16 @@ struct InflectionCore {
     if (longest < table.last_length_) longest = static_cast<std::int16_t>(table.last_length_);
   }
 
+  // An ending that is there already keeps its object, which takes what the new one holds.
   static void add(Table& table, std::unique_ptr<CGrSrcWordObj> entry) {
-    table.last_ = entry.get();
-    table.index_->set(entry->ending, entry.get());
-    ZCObject*& value = table.entries_[entry->ending];
-    delete value;
-    value = entry.release();
+    CGrSrcWordObj*& known = table.index_->at(entry->ending);
+    if (known != nullptr) {
+      *known = *entry;
+    } else {
+      known = entry.release();
+      add_new_key(table.entries_, known->ending, known);
+    }
+    table.last_ = known;
   }
 
   // NOLINTNEXTLINE(bugprone-exception-escape): without memory the process ends, as in the map.

@@ -15,14 +15,14 @@ namespace kz {
 // endings, the shortest first, and stops where no ending goes on.
 class EndingIndex {
  public:
-  // Adds the entry of an ending, in place of the one that it had.
-  void set(std::string_view ending, CGrSrcWordObj* entry) {
+  // The place of the entry of an ending, null when it has none yet. Valid until the next call.
+  CGrSrcWordObj*& at(std::string_view ending) {
     ByteTrie::Node node = ByteTrie::kRoot;
     for (std::size_t i = ending.size(); i-- > 0;) {
       node = trie_.add_child(node, static_cast<unsigned char>(ending[i]));
     }
     entries_.resize(trie_.size());
-    entries_[node] = entry;
+    return entries_[node];
   }
 
   // The entry of the whole word, or else of its longest ending of at most `longest` characters.
