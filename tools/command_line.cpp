@@ -9,6 +9,7 @@ std::unique_ptr<CLI::App> make_command_line(Status& status) {
   app->require_subcommand(1);
   add_dictionary_commands(*app);
   add_lookup_command(*app, status);
+  add_grammar_commands(*app, status);
   return app;
 }
 

@@ -18,6 +18,7 @@ std::unique_ptr<CLI::App> make_command_line(Status& status);
 // completed as such, "{a,b}" as one of the words.
 void add_dictionary_commands(CLI::App& app);  // build, import, dump, info
 void add_lookup_command(CLI::App& app, Status& status);
+void add_grammar_commands(CLI::App& app, Status& status);  // grammar decode, encode, name
 
 }  // namespace kzdic
 

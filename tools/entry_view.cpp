@@ -27,13 +27,6 @@ constexpr std::array<std::pair<std::string_view, const char*>, 25> kParts = {{
     {"=", "reference"},
 }};
 
-std::string part_name(std::string_view code) {
-  for (const auto& [part, name] : kParts) {
-    if (part == code) return name;
-  }
-  return {};
-}
-
 bool is_latin(char32_t c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 // Adds a character to a text in which blanks neither double nor stand inside parentheses' edges.
@@ -130,6 +123,13 @@ class Viewer {
 };
 
 }  // namespace
+
+std::string part_name(std::string_view code) {
+  for (const auto& [part, name] : kParts) {
+    if (part == code) return name;
+  }
+  return {};
+}
 
 EntryView view_entry(const std::string& entry, const std::string& language) {
   return Viewer(entry, language).view(entry);

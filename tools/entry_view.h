@@ -26,6 +26,9 @@ struct EntryView {
   std::string text;  // the entry as it stands
 };
 
+// The name of a part code, "noun"; empty for one without a name.
+std::string part_name(std::string_view code);
+
 EntryView view_entry(const std::string& entry, const std::string& language);
 
 }  // namespace kzdic
