@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "tools/code_page.h"
+#include "tools/entry_grammar.h"
 #include "tools/entry_layout.h"
 #include "tools/entry_view.h"
 
@@ -34,7 +35,7 @@ std::string join(const std::vector<std::string>& texts, std::string_view separat
 // The readable form: one paragraph per entry.
 class TextPrinter : public Printer {
  public:
-  explicit TextPrinter(std::ostream& out) : out_(out) {}
+  TextPrinter(bool grammar, std::ostream& out) : grammar_(grammar), out_(out) {}
 
   void print(const std::string& word, const std::vector<Found>& found, bool line) override {
     for (const Found& answer : found) {
@@ -54,8 +55,17 @@ class TextPrinter : public Printer {
     }
     if (!entry.attribute.empty()) out_ << " [" << entry.attribute << ']';
     out_ << '\n';
-    for (const MeaningView& meaning : entry.meanings) print_meaning(meaning);
+    if (grammar_) print_grammar("    ", entry_grammar(entry), language);
+    for (const MeaningView& meaning : entry.meanings) {
+      print_meaning(meaning);
+      if (grammar_) print_grammar("       ", meaning_grammar(entry, meaning), language);
+    }
     if (!entry.reference.empty()) out_ << "    (" << entry.reference << ")\n";
+  }
+
+  void print_grammar(const char* indent, const std::vector<WordGrammar>& words,
+                     const std::string& language) {
+    if (!words.empty()) out_ << indent << describe(words, language) << '\n';
   }
 
   void print_meaning(const MeaningView& meaning) {
@@ -72,6 +82,7 @@ class TextPrinter : public Printer {
     out_ << "    " << join(pieces, " ") << '\n';
   }
 
+  bool grammar_;
   std::ostream& out_;
 };
 
@@ -100,7 +111,7 @@ class RawPrinter : public Printer {
 // One object per word.
 class JsonPrinter : public Printer {
  public:
-  explicit JsonPrinter(std::ostream& out) : out_(out) {}
+  JsonPrinter(bool grammar, std::ostream& out) : grammar_(grammar), out_(out) {}
 
   void print(const std::string& word, const std::vector<Found>& found, bool) override {
     Json answer = {{"query", word}, {"found", !found.empty()}, {"entries", Json::array()}};
@@ -115,7 +126,7 @@ class JsonPrinter : public Printer {
  private:
   using Json = nlohmann::ordered_json;
 
-  static Json entry_object(const std::string& text, const Found& dictionary) {
+  Json entry_object(const std::string& text, const Found& dictionary) const {
     const EntryView entry = view_entry(text, dictionary.language);
     Json meanings = Json::array();
     for (const MeaningView& meaning : entry.meanings) {
@@ -123,23 +134,27 @@ class JsonPrinter : public Printer {
                           {"part_of_speech", meaning.part_of_speech},
                           {"definition", meaning.definition},
                           {"synonyms", meaning.synonyms}});
+      if (grammar_) meanings.back()["grammar"] = grammar_json(meaning_grammar(entry, meaning));
     }
-    return {{"dictionary", dictionary.path}, {"step", step_name(dictionary.step)},
-            {"headword", entry.headword},    {"spelling", entry.spelling},
-            {"part_code", entry.part_code},  {"part_of_speech", entry.part_of_speech},
-            {"attribute", entry.attribute},  {"meanings", meanings},
-            {"reference", entry.reference},  {"entry", entry.text}};
+    Json object = {{"dictionary", dictionary.path}, {"step", step_name(dictionary.step)},
+                   {"headword", entry.headword},    {"spelling", entry.spelling},
+                   {"part_code", entry.part_code},  {"part_of_speech", entry.part_of_speech},
+                   {"attribute", entry.attribute},  {"meanings", meanings},
+                   {"reference", entry.reference},  {"entry", entry.text}};
+    if (grammar_) object["grammar"] = grammar_json(entry_grammar(entry));
+    return object;
   }
 
+  bool grammar_;
   std::ostream& out_;
 };
 
 }  // namespace
 
-std::unique_ptr<Printer> make_printer(bool raw, bool json, std::ostream& out) {
-  if (json) return std::make_unique<JsonPrinter>(out);
+std::unique_ptr<Printer> make_printer(bool raw, bool json, bool grammar, std::ostream& out) {
+  if (json) return std::make_unique<JsonPrinter>(grammar, out);
   if (raw) return std::make_unique<RawPrinter>(out);
-  return std::make_unique<TextPrinter>(out);
+  return std::make_unique<TextPrinter>(grammar, out);
 }
 
 }  // namespace kzdic

@@ -28,7 +28,8 @@ class Printer {
   virtual void print(const std::string& word, const std::vector<Found>& found, bool line) = 0;
 };
 
-std::unique_ptr<Printer> make_printer(bool raw, bool json, std::ostream& out);
+// With `grammar`, text and JSON also tell what attribute blocks say.
+std::unique_ptr<Printer> make_printer(bool raw, bool json, bool grammar, std::ostream& out);
 
 }  // namespace kzdic
 

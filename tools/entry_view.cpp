@@ -1,11 +1,13 @@
 // Entries without their marks.
 #include "tools/entry_view.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 
 #include "kz/entry.h"
 #include "tools/code_page.h"
+#include "tools/entry_blocks.h"
 #include "tools/entry_layout.h"
 
 namespace kzdic {
@@ -75,6 +77,7 @@ class Viewer {
   EntryView view(const std::string& entry) const {
     EntryView view;
     view.text = decode_entry(entry, language_);
+    view.language = language_;
     if (!handle_) return view;
     const CodePage source = source_page(language_);
     view.headword = text(DicEntryGetInWord(handle_.get(), nullptr), source);
@@ -89,12 +92,29 @@ class Viewer {
     for (std::int16_t i = 0; i < DicEntryGetMeaningsSize(handle_.get()); ++i) {
       view.meanings.push_back(meaning(i));
     }
+    view.block = text(head_block(entry).c_str(), CodePage::kRussian);
+    add_meaning_blocks(entry, view);
     return view;
   }
 
  private:
   static std::string text(const char* bytes, CodePage page) {
     return bytes == nullptr ? std::string() : to_utf8(decode(bytes, page));
+  }
+
+  // Gives every block in front of a meaning to the next meaning with its label.
+  void add_meaning_blocks(const std::string& entry, EntryView& view) const {
+    const EntryLayout at = layout_of(entry);
+    const std::string body = entry.substr(at.body, at.source - at.body);
+    auto next = view.meanings.begin();
+    for (const MeaningBlock& block : meaning_blocks(body)) {
+      const auto found = std::find_if(next, view.meanings.end(), [&block](const MeaningView& it) {
+        return it.part_code == block.label || it.number.starts_with(block.label);
+      });
+      if (found == view.meanings.end()) continue;
+      found->block = text(block.tags.c_str(), target_page(language_));
+      next = found + 1;
+    }
   }
 
   MeaningView meaning(std::int16_t i) const {
@@ -105,6 +125,7 @@ class Viewer {
     if (numbered) {
       view.number = tag;
     } else if (!tag.empty()) {
+      view.part_code = tag;
       view.part_of_speech = part_name(tag).empty() ? tag : part_name(tag);
     }
     view.definition = text(DicEntryGetMeaningDefinition(handle_.get(), i, nullptr), target);
@@ -112,8 +133,14 @@ class Viewer {
     for (std::int16_t j = 0; j < DicEntryGetSynonymsSize(handle_.get(), i); ++j) {
       const char* synonym = DicEntryGetSynonym(handle_.get(), i, j, nullptr);
       if (synonym == nullptr) continue;
-      const std::u32string plain = plain_synonym(decode(synonym, target), russian);
-      if (!plain.empty()) view.synonyms.push_back(to_utf8(plain));
+      const std::u32string spaced = decode(synonym, target);
+      const std::u32string plain = plain_synonym(spaced, russian);
+      if (plain.empty()) continue;
+      view.synonyms.push_back(to_utf8(plain));
+      const InnerBlock block = synonym_block(spaced);
+      if (block.tags.empty()) continue;
+      const std::u32string code(russian && block.part_code != 0 ? 1 : 0, block.part_code);
+      view.synonym_blocks.push_back({view.synonyms.back(), to_utf8(code), to_utf8(block.tags)});
     }
     return view;
   }

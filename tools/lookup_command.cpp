@@ -24,7 +24,8 @@ bool names_dictionary(const std::string& argument) {
 class Lookup {
  public:
   explicit Lookup(const LookupOptions& options)
-      : options_(options), printer_(make_printer(options.raw, options.json, std::cout)) {
+      : options_(options),
+        printer_(make_printer(options.raw, options.json, options.grammar, std::cout)) {
     for (const std::string& path : options.dictionaries) {
       searchers_.push_back(std::make_unique<Searcher>(path));
     }

@@ -20,6 +20,7 @@ struct LookupOptions {
   std::size_t next = 0;
   bool raw = false;
   bool json = false;
+  bool grammar = false;  // also what attribute blocks say, in words
 };
 
 // Splits "FILE... WORD..." in place: the first argument is a dictionary, and so are those behind it

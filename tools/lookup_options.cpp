@@ -43,6 +43,8 @@ void add_lookup_command(CLI::App& app, Status& status) {
       ->type_name("N");
   CLI::Option* raw = command->add_flag("--raw", options.raw, "Entries as they stand");
   command->add_flag("--json", options.json, "One JSON object per word")->excludes(raw);
+  command->add_flag("--grammar", options.grammar, "Also the grammar of the words, in words")
+      ->excludes(raw);
   command->callback([stored, &status] {
     split_arguments(stored->arguments, stored->options);
     status = lookup(stored->options);
