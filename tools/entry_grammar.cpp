@@ -50,7 +50,7 @@ std::string language_name(Side side, const std::string& language) {
 
 std::vector<WordGrammar> entry_grammar(const EntryView& entry) {
   std::vector<WordGrammar> words;
-  add_block(Side::kSource, entry.part_code, entry.block, words);
+  add_block(Side::kSource, entry.part_code, entry.attribute, words);
   return words;
 }
 

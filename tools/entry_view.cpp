@@ -87,12 +87,11 @@ class Viewer {
       view.part_code = text(std::string(1, static_cast<char>(part)).c_str(), CodePage::kRussian);
     }
     view.part_of_speech = part_name(view.part_code);
-    view.attribute = text(DicEntryGetAttr(handle_.get(), nullptr), CodePage::kRussian);
+    view.attribute = text(head_block(entry).c_str(), CodePage::kRussian);
     view.reference = text(DicEntryGetSrcRef(handle_.get(), nullptr), source);
     for (std::int16_t i = 0; i < DicEntryGetMeaningsSize(handle_.get()); ++i) {
       view.meanings.push_back(meaning(i));
     }
-    view.block = text(head_block(entry).c_str(), CodePage::kRussian);
     add_meaning_blocks(entry, view);
     return view;
   }

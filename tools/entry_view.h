@@ -30,8 +30,7 @@ struct EntryView {
   std::string spelling;  // as written: the source word, or the headword
   std::string part_code;
   std::string part_of_speech;  // a name for the part code, empty for one without a name
-  std::string attribute;       // as the library tells it: a block of the body goes first
-  std::string block;           // the one directly behind the part code
+  std::string attribute;       // the block behind the part code
   std::string reference;       // the source reference
   std::vector<MeaningView> meanings;
   std::string text;  // the entry as it stands

@@ -27,7 +27,7 @@ TEST(GrammarLookup, TellsWhatBlocksSayOfEachWord) {
             "    verb: спать\n"
             "       спать: imperfective\n"
             "water  (en.dic, as typed)\n"
-            "  water, noun [P]\n"
+            "  water, noun [-P|F]\n"
             "    English: singular, no-plural; Russian: feminine\n"
             "    1. вода\n"
             "    2. {курорт} воды\n"
