@@ -10,6 +10,7 @@ std::unique_ptr<CLI::App> make_command_line(Status& status) {
   add_dictionary_commands(*app);
   add_lookup_command(*app, status);
   add_grammar_commands(*app, status);
+  add_text_commands(*app, status);
   return app;
 }
 

@@ -1,0 +1,170 @@
+// Lines read as they arrive, answered in blocks.
+#include "tools/line_filter.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "tools/code_page.h"
+#include "tools/status.h"
+
+namespace kzdic {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr std::size_t kPiece = 65536;
+
+class File {
+ public:
+  explicit File(const std::string& path)
+      : name_(path == "-" ? "(standard input)" : path),
+        descriptor_(path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (descriptor_ < 0) throw Failure(Status::kFile, name_ + ": cannot open: " + reason());
+  }
+  File(const File&) = delete;
+  File& operator=(const File&) = delete;
+  ~File() {
+    if (descriptor_ != STDIN_FILENO) close(descriptor_);
+  }
+
+  const std::string& name() const { return name_; }
+
+  // Waits for what there is next, at most `size` bytes; 0 at the end.
+  std::size_t read(char* destination, std::size_t size) {
+    ssize_t count = 0;
+    do {
+      count = ::read(descriptor_, destination, size);
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) throw Failure(Status::kFile, name_ + ": cannot read: " + reason());
+    return static_cast<std::size_t>(count);
+  }
+
+ private:
+  static std::string reason() { return std::strerror(errno); }
+
+  std::string name_;
+  int descriptor_;
+};
+
+// Takes a file apart where lines end.
+class LineReader {
+ public:
+  explicit LineReader(const std::string& path) : file_(path) {}
+
+  const std::string& name() const { return file_.name(); }
+
+  // The whole lines that have arrived; at the end of the file what is left, then nothing.
+  std::string_view next() {
+    buffer_.erase(0, taken_);
+    for (;;) {
+      const std::size_t before = buffer_.size();
+      buffer_.resize(before + kPiece);
+      const std::size_t count = file_.read(buffer_.data() + before, kPiece);
+      buffer_.resize(before + count);
+      const std::size_t end = std::string_view(buffer_).substr(before).rfind('\n');
+      if (count != 0 && end == std::string_view::npos) continue;
+      taken_ = count == 0 ? buffer_.size() : before + end + 1;
+      return std::string_view(buffer_).substr(0, taken_);
+    }
+  }
+
+ private:
+  File file_;
+  std::string buffer_;
+  std::size_t taken_ = 0;
+};
+
+class Run {
+ public:
+  Run(LineFilter& filter, const FilterOptions& options) : filter_(filter), options_(options) {}
+
+  void file(const std::string& path) {
+    LineReader reader(path);
+    std::size_t line = 1;
+    for (std::string_view text; !(text = reader.next()).empty();) {
+      answer({text, reader.name(), line});
+      line += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    }
+  }
+
+ private:
+  void answer(const Block& block) {
+    out_.clear();
+    if (options_.json) {
+      answer_singly(block);
+    } else {
+      try {
+        filter_.answer(block, out_);
+      } catch (const std::runtime_error&) {
+        out_.clear();
+        answer_singly(block);
+      }
+    }
+    write();
+  }
+
+  void answer_singly(const Block& block) {
+    Block line = block;
+    for (std::size_t at = 0; at < block.text.size(); at += line.text.size(), ++line.line) {
+      line.text = block.text.substr(at);
+      line.text = line.text.substr(0, std::min(line.text.find('\n'), line.text.size() - 1) + 1);
+      const std::size_t answered = out_.size();
+      try {
+        answer_line(line);
+      } catch (const BadText& bad) {
+        out_.resize(answered);
+        write();
+        throw Failure(Status::kDamaged,
+                      at_line(line.file, line.line,
+                              "byte " + std::to_string(bad.offset + 1) + ' ' + bad.what()));
+      } catch (const Failure&) {
+        out_.resize(answered);
+        write();
+        throw;
+      }
+    }
+  }
+
+  void answer_line(Block line) {
+    if (!options_.json) return filter_.answer(line, out_);
+    if (line.text.ends_with('\n')) line.text.remove_suffix(1);
+    if (line.text.ends_with('\r')) line.text.remove_suffix(1);
+    Json object;
+    if (!options_.files.empty()) object["file"] = line.file;
+    object["line"] = line.line;
+    filter_.describe(line, object);
+    out_ += object.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
+  }
+
+  void write() {
+    std::cout.write(out_.data(), static_cast<std::streamsize>(out_.size())).flush();
+    if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
+  }
+
+  LineFilter& filter_;
+  const FilterOptions& options_;
+  std::string out_;
+};
+
+}  // namespace
+
+void LineFilter::describe(const Block& line, Json& object) {
+  std::string output;
+  answer(line, output);
+  object["input"] = line.text;
+  object["output"] = output;
+}
+
+void run_filter(LineFilter& filter, const FilterOptions& options) {
+  Run run(filter, options);
+  if (options.files.empty()) return run.file("-");
+  for (const std::string& path : options.files) run.file(path);
+}
+
+}  // namespace kzdic

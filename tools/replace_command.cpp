@@ -1,0 +1,95 @@
+// Replacement by the library, in Windows-1251.
+#include "tools/replace_command.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "kz/dic_error.h"
+#include "kz/replace_buffer.h"
+#include "tools/russian_text.h"
+#include "tools/status.h"
+
+namespace kzdic {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::size_t kRoom = 1 << 20;  // for the answer to several lines
+
+// As many lines as are no longer than `size`, but at least one.
+std::string_view first_lines(std::string_view text, std::size_t size) {
+  if (text.size() <= size) return text;
+  const std::size_t last = text.rfind('\n', size);
+  const std::size_t end = last != std::string_view::npos ? last : text.find('\n');
+  return text.substr(0, std::min(end, text.size() - 1) + 1);
+}
+
+class Words {
+ public:
+  explicit Words(const std::string& path) {
+    switch (buffer_.Load(path.c_str())) {
+      case DIC_OK: break;
+      case DIC_ERR_FORMAT:
+        throw Failure(Status::kDamaged, path + ": not shorter than " +
+                                            std::to_string(REPLACE_BUFFER_LIMIT) + " bytes");
+      default: throw Failure(Status::kFile, path + ": cannot read");
+    }
+    read_lines(path);
+  }
+
+  std::string replaced(std::string_view text) {
+    std::string result;
+    while (!text.empty()) {
+      const std::string piece(first_lines(text, kRoom / growth_));
+      const auto room = std::make_unique_for_overwrite<char[]>(piece.size() * growth_ + 1);
+      result += ChangeWord(&buffer_, piece.c_str(), room.get());
+      text.remove_prefix(piece.size());
+    }
+    return result;
+  }
+
+ private:
+  // Checks the lines, and measures the replacements.
+  void read_lines(const std::string& path) {
+    std::string_view rest = buffer_.GetBuffer();
+    for (std::size_t number = 0; !rest.empty(); ++number) {
+      const std::size_t end = rest.find(kLineEnd);
+      const std::string_view line = rest.substr(0, end);
+      rest.remove_prefix(std::min(rest.size(), line.size() + kLineEnd.size()));
+      if (line.find_first_of(kLineEnd) != std::string_view::npos) {
+        throw Failure(Status::kDamaged,
+                      at_line(path, number, "the line does not end with CR and LF"));
+      }
+      if (line.find(kForeign) != std::string_view::npos) {
+        throw Failure(Status::kDamaged, at_line(path, number, "the line is not Windows-1251"));
+      }
+      const std::size_t word = std::min(line.find('='), line.size());
+      if (word == 0 || word == line.size()) continue;
+      growth_ = std::max(growth_, (line.size() - word - 1 + word - 1) / word);
+    }
+  }
+
+  CFindBuffer buffer_{0};
+  std::size_t growth_ = 1;  // characters that one character of a word can become
+};
+
+class ReplaceFilter : public LineFilter {
+ public:
+  explicit ReplaceFilter(const std::string& path) : words_(path) {}
+
+  void answer(const Block& block, std::string& out) override {
+    const RussianText text(block.text);
+    out += text.restore(words_.replaced(text.bytes()));
+  }
+
+ private:
+  Words words_;
+};
+
+}  // namespace
+
+void replace(const ReplaceOptions& options) {
+  ReplaceFilter filter(options.buffer);
+  run_filter(filter, options.filter);
+}
+
+}  // namespace kzdic
