@@ -11,6 +11,7 @@ std::unique_ptr<CLI::App> make_command_line(Status& status) {
   add_lookup_command(*app, status);
   add_grammar_commands(*app, status);
   add_text_commands(*app, status);
+  add_inflect_command(*app, status);
   return app;
 }
 

@@ -20,6 +20,7 @@ void add_dictionary_commands(CLI::App& app);  // build, import, dump, info
 void add_lookup_command(CLI::App& app, Status& status);
 void add_grammar_commands(CLI::App& app, Status& status);  // grammar decode, encode, name
 void add_text_commands(CLI::App& app, Status& status);  // convert, translit, layout, replace
+void add_inflect_command(CLI::App& app, Status& status);
 
 }  // namespace kzdic
 
