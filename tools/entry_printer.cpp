@@ -13,14 +13,16 @@
 namespace kzdic {
 namespace {
 
-const char* step_name(Step step) {
-  switch (step) {
+std::string step_name(const Found& found) {
+  switch (found.step) {
     case Step::kTyped: return "as typed";
     case Step::kLowerCase: return "in lower case";
     case Step::kFolded: return "with е for ё";
+    case Step::kInflected:
+      return found.ending.empty() ? "as a form without ending" : "by its ending " + found.ending;
     case Step::kNone: break;
   }
-  return "";
+  return {};
 }
 
 std::string join(const std::vector<std::string>& texts, std::string_view separator) {
@@ -39,7 +41,7 @@ class TextPrinter : public Printer {
 
   void print(const std::string& word, const std::vector<Found>& found, bool line) override {
     for (const Found& answer : found) {
-      out_ << word << "  (" << answer.path << ", " << step_name(answer.step) << ")\n";
+      out_ << word << "  (" << answer.path << ", " << step_name(answer) << ")\n";
       for (const std::string& entry : answer.entries) print_entry(entry, answer.language);
     }
     if (found.empty()) (line ? out_ : std::cerr) << word << ": not found\n";
@@ -136,7 +138,7 @@ class JsonPrinter : public Printer {
                           {"synonyms", meaning.synonyms}});
       if (grammar_) meanings.back()["grammar"] = grammar_json(meaning_grammar(entry, meaning));
     }
-    Json object = {{"dictionary", dictionary.path}, {"step", step_name(dictionary.step)},
+    Json object = {{"dictionary", dictionary.path}, {"step", step_name(dictionary)},
                    {"headword", entry.headword},    {"spelling", entry.spelling},
                    {"part_code", entry.part_code},  {"part_of_speech", entry.part_of_speech},
                    {"attribute", entry.attribute},  {"meanings", meanings},

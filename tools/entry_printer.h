@@ -17,6 +17,7 @@ struct Found {
   std::string language;
   Step step = Step::kNone;
   std::vector<std::string> entries;
+  std::string ending;  // of an inflected form
 };
 
 class Printer {

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "tools/entry_printer.h"
+#include "tools/inflect_table.h"
 #include "tools/search.h"
 
 namespace kzdic {
@@ -29,6 +30,7 @@ class Lookup {
     for (const std::string& path : options.dictionaries) {
       searchers_.push_back(std::make_unique<Searcher>(path));
     }
+    if (!options.inflected.empty()) table_ = load_table(options.inflected);
     if (options.set.directory.empty()) return;
     set_.emplace(options.set);
     for (CDic* const dictionary : set_->dictionaries()) {
@@ -43,9 +45,10 @@ class Lookup {
       Answer answer = searcher->find({word, options_.prefix, options_.next});
       if (answer.step == Step::kNone) continue;
       found.push_back(
-          {searcher->path(), searcher->language(), answer.step, std::move(answer.entries)});
+          {searcher->path(), searcher->language(), answer.step, std::move(answer.entries), {}});
       if (options_.first) break;
     }
+    if (found.empty() && table_) found = inflected(word);
     all_found_ = all_found_ && !found.empty();
     printer_->print(word, found, line);
     std::cout.flush();
@@ -62,9 +65,22 @@ class Lookup {
   bool all_found() const { return all_found_; }
 
  private:
+  std::vector<Found> inflected(const std::string& word) {
+    std::vector<Found> found;
+    for (const auto& searcher : searchers_) {
+      for (Answer& answer : searcher->find_inflected(word, *table_)) {
+        found.push_back({searcher->path(), searcher->language(), answer.step,
+                         std::move(answer.entries), std::move(answer.ending)});
+      }
+      if (options_.first && !found.empty()) break;
+    }
+    return found;
+  }
+
   const LookupOptions& options_;
   std::unique_ptr<Printer> printer_;
   std::optional<DictionarySet> set_;
+  std::unique_ptr<CGrSrcWordFlex> table_;
   std::vector<std::unique_ptr<Searcher>> searchers_;
   bool all_found_ = true;
 };

@@ -18,6 +18,7 @@ struct LookupOptions {
   bool first = false;              // the answer of the first dictionary that has one, only
   bool prefix = false;
   std::size_t next = 0;
+  std::string inflected;  // inflection table for words that are not found as they stand
   bool raw = false;
   bool json = false;
   bool grammar = false;  // also what attribute blocks say, in words

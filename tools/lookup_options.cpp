@@ -38,9 +38,15 @@ void add_lookup_command(CLI::App& app, Status& status) {
       ->type_name("STRING")
       ->needs(set);
   command->add_flag("--first", options.first, "Only the first dictionary that has the word");
-  command->add_flag("--prefix", options.prefix, "All headwords that begin with the word");
+  CLI::Option* prefix =
+      command->add_flag("--prefix", options.prefix, "All headwords that begin with the word");
   command->add_option("--next", options.next, "Also the records behind it, so many")
       ->type_name("N");
+  command
+      ->add_option("--inflected", options.inflected,
+                   "Inflection table that leads from a Russian form to its headwords")
+      ->type_name("FILE")
+      ->excludes(prefix);
   CLI::Option* raw = command->add_flag("--raw", options.raw, "Entries as they stand");
   command->add_flag("--json", options.json, "One JSON object per word")->excludes(raw);
   command->add_flag("--grammar", options.grammar, "Also the grammar of the words, in words")

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "kz/inflection.h"
 #include "tools/file_header.h"
 #include "tools/open_dictionary.h"
 #include "tools/sort_order.h"
@@ -19,11 +20,13 @@ enum class Step {
   kTyped,
   kLowerCase,  // lower-cased by the dictionary's language
   kFolded,     // lower-cased, and the Russian letter yo written as ye
+  kInflected,  // the headword of a Russian form
 };
 
 struct Answer {
   Step step = Step::kNone;           // the form that was found
   std::vector<std::string> entries;  // full entries, in the dictionary's code pages
+  std::string ending;                // "-ами (NF 1)": how an inflected form was understood
 };
 
 struct Query {
@@ -43,6 +46,9 @@ class Searcher {
   const std::string& language() const { return header_.language; }
 
   Answer find(const Query& query);
+  // Answers for all headwords that the word may be a form of, the most likely first. Only Russian
+  // dictionaries have any.
+  std::vector<Answer> find_inflected(const std::string& word, CGrSrcWordFlex& table);
 
  private:
   explicit Searcher(Dictionary dictionary);

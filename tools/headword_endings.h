@@ -1,0 +1,27 @@
+// How headwords end: by class and paradigm number of an inflection table.
+#ifndef KZ_TOOLS_HEADWORD_ENDINGS_H
+#define KZ_TOOLS_HEADWORD_ENDINGS_H
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace kzdic {
+
+enum class WordGroup { kMasculine, kFeminine, kNeuter, kPlural, kAdjective, kVerb };
+
+// In the text '~' stands for the first letter that was taken off the form.
+struct HeadwordEnding {
+  WordGroup group;
+  std::int16_t number;  // of the paradigm
+  std::u32string_view text;
+  std::u32string_view after;  // the stem must end in one of these letters; empty for any
+};
+
+// The endings that headwords of a group and paradigm number may have; with number 0, or one that is
+// not known, all of the group.
+std::vector<HeadwordEnding> headword_endings(WordGroup group, std::int16_t number);
+
+}  // namespace kzdic
+
+#endif  // KZ_TOOLS_HEADWORD_ENDINGS_H
