@@ -84,9 +84,9 @@ class KZ_API CGrSrcWordFlex : public ZCObject {
  protected:
   // Loads the table from the full path of its ".Dat" file, by the load flag; results as Load.
   std::int16_t _LoadFlex(const char* path);
-  // Adds the entry of one line of the text file; an entry with the same ending takes
-  // what it says. 1 when the line gave an entry; 0 for an ending of 80 characters or more or without
-  // attributes.
+  // Adds the entry of one line of the text file; the entry of an ending that is there already takes
+  // what the line says. 1 when the line gave an entry; 0 for an ending of 80 characters or more or
+  // without attributes.
   std::int16_t GetWord(const char* line);
 
  private:
