@@ -44,11 +44,13 @@ def main():
         prepare(directory, source, environment)
         for command, lines in sessions((source / "README.md").read_text("utf-8")):
             if command.startswith("cat "):
-                (directory / command[4:]).write_text("".join(line + "\n" for line in lines), "utf-8")
+                text = "".join(line + "\n" for line in lines)
+                (directory / command[4:]).write_text(text, "utf-8")
             if "kzdic" not in command or command.startswith(LEFT_OUT):
                 continue
-            run = subprocess.run(["bash", "-c", command], cwd=directory, env=environment, encoding="utf-8",
-                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+            run = subprocess.run(["bash", "-c", command], cwd=directory, env=environment,
+                                 encoding="utf-8", stdout=subprocess.PIPE,
+                                 stderr=subprocess.STDOUT)
             checked += 1
             printed = run.stdout.splitlines()
             if printed != lines:

@@ -3,7 +3,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <random>
 #include <set>
@@ -223,7 +222,7 @@ TEST(Lookup, DamagedRecordsAndTablesAreReadTheSameWay) {
       for (int i = 0; i < 12; ++i) {
         bytes[154 + random() % (end - 154)] = static_cast<char>(random());
       }
-      std::ofstream(dir.file("d.dic"), std::ios::binary) << bytes;
+      dir.write("d.dic", bytes);
       SlowDictionary slow(bytes);
       const std::vector<std::string> words = words_to_search(random, file, shape);
       for (const auto mode : std::initializer_list<std::int16_t>{0, 4}) {
@@ -501,17 +500,16 @@ TEST(DictionaryGroups, PrintTheirPlaces) {
   const Dictionary dictionary(DicOpen(path.c_str(), 0));
   ASSERT_NE(dictionary, nullptr);
   ZCFile list;
-  const std::string text = directory.file("groups.txt");
-  ASSERT_TRUE(list.Open(text.c_str(), 0x1002));
+  ASSERT_TRUE(list.Open(directory.file("groups.txt").c_str(), 0x1002));
   PrintAllOffsets(dictionary.get(), &list);
   list.Close();
   // Six bytes each behind the header of 154; two line feeds end the records. A letter's head leads
   // to its first group.
-  std::ifstream in(text);
-  const std::string lines(std::istreambuf_iterator<char>(in), {});
-  EXPECT_EQ(lines,
-            "*154     'a  ' 6      \n*154     'ad ' 6      \n*160     'ah ' 6      \n*166     'b  "
-            "' 7      \n");
+  EXPECT_EQ(directory.read("groups.txt"),
+            "*154     'a  ' 6      \n"
+            "*154     'ad ' 6      \n"
+            "*160     'ah ' 6      \n"
+            "*166     'b  ' 7      \n");
   PrintAllOffsets(nullptr, nullptr);
   PrintAllOffsets(dictionary.get(), nullptr);
 }

@@ -8,7 +8,6 @@
 #include <compare>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <map>
 #include <random>
@@ -77,13 +76,9 @@ class Table : public CGrSrcWordFlex {
 class InflectionTest : public testing::Test {
  protected:
   std::string write(const std::string& name, std::string_view contents) const {
-    std::ofstream(dir_.file(name), std::ios::binary) << contents;
-    return dir_.file(name);
+    return dir_.write(name, contents);
   }
-  std::string read(const std::string& name) const {
-    std::ifstream in(dir_.file(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-  }
+  std::string read(const std::string& name) const { return dir_.read(name); }
   bool exists(const std::string& name) const { return std::filesystem::exists(dir_.file(name)); }
   std::int16_t load(CGrSrcWordFlex& table, std::int16_t flag = 1) const {
     return table.Load("ru.Dat", dir_.file("").c_str(), flag);

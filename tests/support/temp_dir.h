@@ -4,8 +4,11 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace kz::test {
 
@@ -21,6 +24,16 @@ class TempDir {
   ~TempDir() { std::filesystem::remove_all(path_); }
 
   std::string file(const std::string& name) const { return (path_ / name).string(); }
+
+  // Makes a file and gives its path.
+  std::string write(const std::string& name, std::string_view contents) const {
+    std::ofstream(path_ / name, std::ios::binary) << contents;
+    return file(name);
+  }
+  std::string read(const std::string& name) const {
+    std::ifstream in(path_ / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+  }
 
  private:
   std::filesystem::path path_;

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <random>
 #include <string>
 #include <string_view>
@@ -22,8 +21,7 @@ using Pairs = std::vector<std::pair<std::string, std::string>>;
 class ListFileTest : public testing::Test {
  protected:
   std::string write(const std::string& name, std::string_view contents) const {
-    std::ofstream(dir_.file(name), std::ios::binary) << contents;
-    return dir_.file(name);
+    return dir_.write(name, contents);
   }
 
   kz::test::TempDir dir_;

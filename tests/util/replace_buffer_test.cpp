@@ -6,7 +6,6 @@
 #include <array>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
@@ -83,13 +82,9 @@ std::string change(CFindBuffer& buffer, const std::string& source) {
 class ReplaceBufferTest : public testing::Test {
  protected:
   std::string write(const std::string& name, std::string_view contents) const {
-    std::ofstream(dir_.file(name), std::ios::binary) << contents;
-    return dir_.file(name);
+    return dir_.write(name, contents);
   }
-  std::string read(const std::string& name) const {
-    std::ifstream in(dir_.file(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-  }
+  std::string read(const std::string& name) const { return dir_.read(name); }
 
   kz::test::TempDir dir_;
   CFindBuffer buffer_{0};
