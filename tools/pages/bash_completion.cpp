@@ -1,4 +1,5 @@
 // Completion for bash.
+#include <algorithm>
 #include <ostream>
 
 #include "tools/pages/pages.h"
@@ -83,8 +84,9 @@ void write_arguments(const Command& command, const std::vector<Command>& command
 }  // namespace
 
 void write_bash_completion(const std::vector<Command>& commands, std::ostream& out) {
-  std::vector<std::string> names;
-  for (const Command& command : commands) names.push_back("'kzdic " + command.name + "'");
+  std::vector<std::string> names(commands.size());
+  std::ranges::transform(commands, names.begin(),
+                         [](const Command& command) { return "'kzdic " + command.name + "'"; });
   out << kHead << "      " << joined(names, " | ") << ")\n"
       << "        command+=\" ${COMP_WORDS[i]}\" ;;\n    esac\n  done\n"
       << "  case \"$command:$previous\" in\n";
