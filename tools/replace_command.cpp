@@ -2,7 +2,10 @@
 #include "tools/replace_command.h"
 
 #include <algorithm>
+#include <bitset>
+#include <iterator>
 #include <memory>
+#include <new>
 
 #include "kz/dic_error.h"
 #include "kz/replace_buffer.h"
@@ -13,15 +16,7 @@ namespace kzdic {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::size_t kRoom = 1 << 20;  // for the answer to several lines
-
-// As many lines as are no longer than `size`, but at least one.
-std::string_view first_lines(std::string_view text, std::size_t size) {
-  if (text.size() <= size) return text;
-  const std::size_t last = text.rfind('\n', size);
-  const std::size_t end = last != std::string_view::npos ? last : text.find('\n');
-  return text.substr(0, std::min(end, text.size() - 1) + 1);
-}
+constexpr std::size_t kRoom = 1 << 20;  // for the answer to a piece of text
 
 class Words {
  public:
@@ -39,7 +34,8 @@ class Words {
   std::string replaced(std::string_view text) {
     std::string result;
     while (!text.empty()) {
-      const std::string piece(first_lines(text, kRoom / growth_));
+      const std::string piece(first_piece(text, kRoom / growth_));
+      if (piece.size() > piece.max_size() / growth_) throw std::bad_alloc();
       const auto room = std::make_unique_for_overwrite<char[]>(piece.size() * growth_ + 1);
       result += ChangeWord(&buffer_, piece.c_str(), room.get());
       text.remove_prefix(piece.size());
@@ -63,13 +59,27 @@ class Words {
         throw Failure(Status::kDamaged, at_line(path, number, "the line is not Windows-1251"));
       }
       const std::size_t word = std::min(line.find('='), line.size());
+      for (const char c : line.substr(0, word)) in_words_.set(static_cast<unsigned char>(c));
       if (word == 0 || word == line.size()) continue;
       growth_ = std::max(growth_, (line.size() - word - 1 + word - 1) / word);
     }
   }
 
+  // No longer than `size` where that can be. What stands on both sides of a character that is in no
+  // word is replaced separately.
+  std::string_view first_piece(std::string_view text, std::size_t size) const {
+    if (text.size() <= size) return text;
+    const auto separates = [this](char c) { return !in_words_[static_cast<unsigned char>(c)]; };
+    const auto target = text.begin() + static_cast<std::ptrdiff_t>(size);
+    const auto before = std::find_if(std::make_reverse_iterator(target), text.rend(), separates);
+    if (before != text.rend()) return {text.begin(), before.base()};
+    const auto behind = std::find_if(target, text.end(), separates);
+    return {text.begin(), behind == text.end() ? behind : behind + 1};
+  }
+
   CFindBuffer buffer_{0};
-  std::size_t growth_ = 1;  // characters that one character of a word can become
+  std::bitset<256> in_words_;  // by character
+  std::size_t growth_ = 1;     // characters that one character of a word can become
 };
 
 class ReplaceFilter : public LineFilter {

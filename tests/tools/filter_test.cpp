@@ -228,6 +228,8 @@ TEST(Replace, AppliesTheBufferAndRefusesBadOnes) {
             "→ кошка→ кошкалета Y\n");
   const Outcome grown = place.kzdic({"replace", "words"}, "много\nмного много");
   EXPECT_EQ(grown.out.size(), 45'002U);
+  const std::string text(4'000'000, 'x');
+  EXPECT_TRUE(place.kzdic({"replace", "words"}, text + "ab" + text).out == text + text);
 
   make("unix", "a=b\nc=d\n");
   place.write("page", "a=\x98\r\n");
