@@ -70,6 +70,20 @@ class ByteTable {
   // Does nothing, and returns false, when some byte becomes nothing.
   bool append(std::string_view text, std::string& out) const {
     const std::size_t size = out.size();
+    for (; !text.empty(); text.remove_prefix(std::min(text.size(), kStep))) {
+      if (append_step(text.substr(0, kStep), out)) continue;
+      out.resize(size);
+      return false;
+    }
+    return true;
+  }
+
+ private:
+  static constexpr std::size_t kLongest = 8;  // "&#65535;"
+  static constexpr std::size_t kStep = 1024;
+
+  bool append_step(std::string_view text, std::string& out) const {
+    const std::size_t size = out.size();
     out.resize(size + text.size() * longest_ + kLongest);
     char* end = out.data() + size;
     bool complete = longest_ != 0;
@@ -79,12 +93,9 @@ class ByteTable {
       end += lengths_[byte];
       complete = complete && lengths_[byte] != 0;
     }
-    out.resize(complete ? static_cast<std::size_t>(end - out.data()) : size);
+    out.resize(static_cast<std::size_t>(end - out.data()));
     return complete;
   }
-
- private:
-  static constexpr std::size_t kLongest = 8;  // "&#65535;"
 
   std::array<std::array<char, kLongest>, 256> outputs_{};
   std::array<std::size_t, 256> lengths_{};

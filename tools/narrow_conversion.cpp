@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 #include "kz/codepage.h"
 #include "tools/status.h"
@@ -48,6 +49,7 @@ void append_narrowed(std::string_view text, const NarrowPair& pair, std::string&
   std::string room;
   for (std::size_t at = 0;;) {
     const std::size_t end = std::min(source.find('\0', at), source.size());
+    if (end - at > room.max_size() / pair.growth - 1) throw std::bad_alloc();
     room.resize(std::max(room.size(), (end - at) * pair.growth + 1));
     out.append(room.data(), pair.convert(source.data() + at, room.data()));
     if (end == source.size()) return;
