@@ -112,11 +112,13 @@ class FullConversion : public LineFilter {
     if (!options.replace) return;
     try {
       const std::u32string text = from_utf8(*options.replace);
-      if (append_encoded(text, to_, replacement_) == text.size()) return;
-    } catch (const BadText&) {
-      // The same message serves: no code page has such a character.
+      const std::size_t length = append_encoded(text, to_, replacement_);
+      if (length < text.size()) throw Unmappable(text[length], to_.page);
+    } catch (const BadText& bad) {
+      throw Failure(Status::kUsage, std::string("--replace: the text ") + bad.what());
+    } catch (const Unmappable& missing) {
+      throw Failure(Status::kUsage, std::string("--replace: ") + missing.what());
     }
-    throw Failure(Status::kUsage, "--replace: " + std::string(to_.name) + " lacks the character");
   }
 
   void answer(const Block& block, std::string& out) override {

@@ -147,7 +147,9 @@ TEST(Convert, ReportsCharactersWithoutAPlace) {
   EXPECT_EQ(seen.err, "");
   EXPECT_EQ(json::parse(seen.out.substr(seen.out.find('\n')))["missing"],
             json({{{"column", 1}, {"character", "≤"}, {"code_point", "U+2264"}}}));
-  EXPECT_EQ(convert(place, "utf-8", "koi8-r", text, {"--replace", "№"}).status, 2);
+  const Outcome replaced = convert(place, "utf-8", "koi8-r", text, {"--replace", "a№"});
+  EXPECT_EQ(replaced.status, 2);
+  EXPECT_NE(replaced.err.find("'№' (U+2116) is not in KOI8-R"), std::string::npos);
 }
 
 TEST(Filter, KeepsLineEndsZerosAndLinesOfAnyLength) {
