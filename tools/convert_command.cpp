@@ -225,6 +225,7 @@ void list_code_pages(std::ostream& out) {
   }
   out << "\nwith --narrow\n";
   for (const NarrowPair& pair : narrow_pairs()) out << pair.from << " to " << pair.to << '\n';
+  if (!out.flush()) throw Failure(Status::kFile, "cannot write to standard output");
 }
 
 }  // namespace kzdic
