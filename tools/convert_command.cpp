@@ -132,7 +132,7 @@ class FullConversion : public LineFilter {
 
   void describe(const Block& line, Json& object) override {
     const std::u32string text = decode(line.text, from_);
-    object["input"] = to_utf8(text);
+    object["input"] = from_.form == Form::kPage ? to_utf8(text) : std::string(line.text);
     std::string out;
     Json missing = Json::array();
     encode(text, out, [&](const Place& place) {

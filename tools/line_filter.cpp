@@ -133,8 +133,9 @@ class Run {
 
   void answer_line(Block line) {
     if (!options_.json) return filter_.answer(line, out_);
-    if (line.text.ends_with('\n')) line.text.remove_suffix(1);
-    if (line.text.ends_with('\r')) line.text.remove_suffix(1);
+    if (line.text.ends_with('\n')) {
+      line.text.remove_suffix(line.text.ends_with("\r\n") ? 2 : 1);
+    }
     Json object;
     if (!options_.files.empty()) object["file"] = line.file;
     object["line"] = line.line;

@@ -170,6 +170,9 @@ TEST(Filter, KeepsLineEndsZerosAndLinesOfAnyLength) {
     const Outcome answer = place.kzdic(command, "→\0\r\n\n€"s + std::string(70'000, '-'));
     EXPECT_TRUE(answer.out == "→\0\r\n\n€"s + std::string(70'000, '-')) << command[0];
   }
+  EXPECT_EQ(convert(place, "html", "utf-8", "&#1078;\r\n&#x416;\r", {"--json"}).out,
+            "{\"line\":1,\"input\":\"&#1078;\",\"output\":\"ж\",\"missing\":[]}\n"
+            "{\"line\":2,\"input\":\"&#x416;\\r\",\"output\":\"Ж\\r\",\"missing\":[]}\n");
   const Outcome bad = place.kzdic({"layout", "--to", "latin"}, "фы\n\nф\xD0\n");
   EXPECT_EQ(bad.status, 4);
   EXPECT_EQ(bad.out, "as\n\n");
