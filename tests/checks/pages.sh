@@ -39,5 +39,11 @@ expect "--skip-bad" kzdic build --sk
 expect "data/baseenru.txt" kzdic build data/baseenr
 expect "" kzdic build --title data/base
 expect "docs" kzdic lookup --set doc
+expect "koi8-r" kzdic convert --from cp866 --to = ko
+expect "html" kzdic convert README.md --from = utf-8 --to h
+expect "class change" kzdic grammar name --json c
+expect "" kzdic grammar name class c
+expect "data/ruflex.txt" kzdic inflect --build docs data/ruf
+expect "" kzdic inflect README.md data/ruf
 
 zsh -n "$build/completions/_kzdic"

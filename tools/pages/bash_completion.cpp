@@ -7,10 +7,16 @@
 namespace kzdic::pages {
 namespace {
 
+// "place" counts the arguments in front of the word. Bash has "=" as a word of its own.
 constexpr const char* kHead = R"(# Completion of kzdic for bash.
 _kzdic() {
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-  local command=kzdic options='' words='' files='' i
+  local command=kzdic place=0 options='' words='' files='' i
+  if [[ $word == '=' ]]; then
+    word=
+  elif [[ $previous == '=' ]]; then
+    previous=${COMP_WORDS[COMP_CWORD - 2]}
+  fi
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case "$command ${COMP_WORDS[i]}" in
 )";
@@ -54,14 +60,29 @@ std::string below(const std::string& name, const std::vector<Command>& commands)
   return joined(words, " ");
 }
 
+// "'kzdic build:-o' | 'kzdic build:--output'", the names of one option.
+std::string pattern(const Command& command, const Option& option) {
+  std::vector<std::string> names;
+  for (const std::string& name : option.names) {
+    names.push_back("'kzdic " + command.name + ":" + name + "'");
+  }
+  return joined(names, " | ");
+}
+
+std::string valued_options(const std::vector<Command>& commands) {
+  std::vector<std::string> patterns;
+  for (const Command& command : commands) {
+    for (const Option& option : command.options) {
+      if (option.value != Value::kNone) patterns.push_back(pattern(command, option));
+    }
+  }
+  return joined(patterns, " | ");
+}
+
 void write_values(const Command& command, std::ostream& out) {
   for (const Option& option : command.options) {
     if (option.value == Value::kNone) continue;
-    std::vector<std::string> patterns;
-    for (const std::string& name : option.names) {
-      patterns.push_back("'kzdic " + command.name + ":" + name + "'");
-    }
-    out << "    " << joined(patterns, " | ") << ") " << offer(option) << " ;;\n";
+    out << "    " << pattern(command, option) << ") " << offer(option) << " ;;\n";
   }
 }
 
@@ -73,10 +94,13 @@ void write_arguments(const Command& command, const std::vector<Command>& command
   }
   out << "        'kzdic " << command.name << "')\n"
       << "          options='" << joined(names, " ") << "'\n";
-  if (command.group) {
-    out << "          words='" << below(command.name, commands) << "'\n";
-  } else if (!command.arguments.empty()) {
-    out << "          " << offer(command.arguments.back()) << '\n';
+  if (command.group) out << "          words='" << below(command.name, commands) << "'\n";
+  if (!command.arguments.empty()) {
+    out << "          case $place in\n";
+    for (std::size_t place = 0; place + 1 < command.arguments.size(); ++place) {
+      out << "            " << place << ") " << offer(command.arguments[place]) << " ;;\n";
+    }
+    out << "            *) " << offer(command.arguments.back()) << " ;;\n          esac\n";
   }
   out << "          ;;\n";
 }
@@ -88,7 +112,10 @@ void write_bash_completion(const std::vector<Command>& commands, std::ostream& o
   std::ranges::transform(commands, names.begin(),
                          [](const Command& command) { return "'kzdic " + command.name + "'"; });
   out << kHead << "      " << joined(names, " | ") << ")\n"
-      << "        command+=\" ${COMP_WORDS[i]}\" ;;\n    esac\n  done\n"
+      << "        command+=\" ${COMP_WORDS[i]}\"\n        continue ;;\n    esac\n"
+      << "    case \"$command:${COMP_WORDS[i - 1]}\" in\n"
+      << "      " << valued_options(commands) << " | *:=) continue ;;\n    esac\n"
+      << "    [[ ${COMP_WORDS[i]} == -?* || ${COMP_WORDS[i]} == '=' ]] || ((++place))\n  done\n"
       << "  case \"$command:$previous\" in\n";
   for (const Command& command : commands) write_values(command, out);
   out << "    *)\n      case \"$command\" in\n"
