@@ -49,7 +49,8 @@ void write_option(const Option& option, std::ostream& out) {
         out << (&other == option.names.data() ? "" : " ") << other;
       out << ')';
     }
-    out << name << '[' << escaped(option.description) << ']';
+    const bool joined = option.value != Value::kNone && name.starts_with("--");
+    out << name << (joined ? "=" : "") << '[' << escaped(option.description) << ']';
     if (option.value != Value::kNone) out << action(option);
     out << '\'';
   }
