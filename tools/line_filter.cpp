@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 #include <iostream>
+#include <new>
 #include <nlohmann/json.hpp>
 
 #include "tools/code_page.h"
@@ -164,8 +165,12 @@ void LineFilter::describe(const Block& line, Json& object) {
 
 void run_filter(LineFilter& filter, const FilterOptions& options) {
   Run run(filter, options);
-  if (options.files.empty()) return run.file("-");
-  for (const std::string& path : options.files) run.file(path);
+  try {
+    if (options.files.empty()) return run.file("-");
+    for (const std::string& path : options.files) run.file(path);
+  } catch (const std::bad_alloc&) {
+    throw Failure(Status::kFile, "not enough memory for a line this long");
+  }
 }
 
 }  // namespace kzdic
