@@ -1,5 +1,6 @@
 // kzdic: builds, imports, dumps, describes and searches dictionaries, and converts their texts.
 #include <iostream>
+#include <new>
 
 #include "tools/command_line.h"
 #include "tools/status.h"
@@ -13,7 +14,11 @@ int run(int argc, char** argv) {
   try {
     app->parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app->exit(error) == 0 ? 0 : static_cast<int>(kzdic::Status::kUsage);
+    // Help and version come this way, too.
+    if (app->exit(error) != 0) status = kzdic::Status::kUsage;
+    if (!std::cout.flush()) {
+      throw kzdic::Failure(kzdic::Status::kFile, "cannot write to standard output");
+    }
   }
   return static_cast<int>(status);
 }
@@ -26,6 +31,9 @@ int main(int argc, char** argv) {
   } catch (const kzdic::Failure& failure) {
     std::cerr << "kzdic: " << failure.what() << '\n';
     return static_cast<int>(failure.status());
+  } catch (const std::bad_alloc&) {
+    std::cerr << "kzdic: not enough memory\n";
+    return static_cast<int>(kzdic::Status::kFile);
   } catch (const std::exception& error) {
     std::cerr << "kzdic: " << error.what() << '\n';
     return static_cast<int>(kzdic::Status::kFile);

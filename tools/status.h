@@ -9,11 +9,11 @@ namespace kzdic {
 
 enum class Status {
   kOk = 0,
-  kNotFound = 1,  // a word that was looked up is in no dictionary
+  kNotFound = 1,  // a word or name that was looked up is not there
   kUsage = 2,
   kFile = 3,      // a file cannot be opened, read or written
   kDamaged = 4,   // input that is not what it should be, or that the format cannot hold
-  kCodePage = 5,  // a character that the dictionary's code page lacks
+  kCodePage = 5,  // a character that the code page lacks
 };
 
 // Ends the command. The message names the file, and the line or offset where there is one.
