@@ -19,7 +19,7 @@ std::unique_ptr<CLI::App> make_command_line(Status& status);
 void add_dictionary_commands(CLI::App& app);  // build, import, dump, info
 void add_lookup_command(CLI::App& app, Status& status);
 void add_grammar_commands(CLI::App& app, Status& status);  // grammar decode, encode, name
-void add_text_commands(CLI::App& app, Status& status);  // convert, translit, layout, replace
+void add_text_commands(CLI::App& app, Status& status);     // convert, translit, layout, replace
 void add_inflect_command(CLI::App& app, Status& status);
 
 }  // namespace kzdic
