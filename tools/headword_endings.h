@@ -10,12 +10,14 @@ namespace kzdic {
 
 enum class WordGroup { kMasculine, kFeminine, kNeuter, kPlural, kAdjective, kVerb };
 
-// In the text '~' stands for the first letter that was taken off the form.
+// In the text '~' stands for the first letter that was taken off the form. The stem must end in one
+// of the letters `after`, the letters taken off begin with one of `from`; empty for any.
 struct HeadwordEnding {
   WordGroup group;
   std::int16_t number;  // of the paradigm
   std::u32string_view text;
-  std::u32string_view after;  // the stem must end in one of these letters; empty for any
+  std::u32string_view after{};
+  std::u32string_view from{};
 };
 
 // The endings that headwords of a group and paradigm number may have; with number 0, or one that is

@@ -26,11 +26,13 @@ bool is_one_of(std::u32string_view letters, char32_t letter) {
 bool is_consonant(char32_t letter) { return is_one_of(U"бвгджзклмнпрстфхцчшщ", letter); }
 bool is_vowel(char32_t letter) { return is_one_of(U"аеёиоуыэюя", letter); }
 
-// Consonants of a stem in some forms of a verb, and those that its headword has instead.
+// Consonants of a stem in some forms of a verb or in a comparative, and those that its headword has
+// instead.
 constexpr std::pair<std::u32string_view, std::u32string_view> kAlternations[] = {
-    {U"бл", U"б"}, {U"пл", U"п"}, {U"мл", U"м"}, {U"вл", U"в"}, {U"фл", U"ф"}, {U"жд", U"д"},
-    {U"ж", U"д"},  {U"ж", U"з"},  {U"ж", U"г"},  {U"ш", U"с"},  {U"ш", U"х"},  {U"ч", U"т"},
-    {U"ч", U"к"},  {U"щ", U"ст"}, {U"щ", U"ск"}, {U"щ", U"т"},
+    {U"бл", U"б"}, {U"пл", U"п"}, {U"мл", U"м"}, {U"вл", U"в"}, {U"фл", U"ф"},
+    {U"жд", U"д"}, {U"ж", U"д"},  {U"ж", U"з"},  {U"ж", U"г"},  {U"ш", U"с"},
+    {U"ш", U"х"},  {U"ч", U"т"},  {U"ч", U"к"},  {U"щ", U"ст"}, {U"щ", U"ск"},
+    {U"щ", U"т"},  {U"ж", U"зк"}, {U"ж", U"дк"}, {U"ч", U"тк"},
 };
 
 // Consonants that do change where consonants change at all: пишем is a form of писать, писем is
@@ -123,25 +125,33 @@ Stems without_vowel(std::u32string_view stem) {
 Stems with_other_consonants(std::u32string_view stem) {
   Stems stems;
   for (const auto& [form, headword] : kAlternations) {
-    if (!stem.ends_with(form)) continue;
+    if (stem.size() <= form.size() || !stem.ends_with(form)) continue;
     stems.emplace_back(stem.substr(0, stem.size() - form.size())).append(headword);
   }
   return stems;
 }
 
+std::u32string fold_e(std::u32string text) {
+  std::replace(text.begin(), text.end(), U'ё', U'е');
+  return text;
+}
+
 // сёстр: сестр; еж: ёж.
 Stems with_other_e(const std::u32string& stem) {
   Stems stems;
-  std::u32string folded = stem;
-  std::replace(folded.begin(), folded.end(), U'ё', U'е');
+  std::u32string folded = fold_e(stem);
   if (folded != stem) stems.push_back(std::move(folded));
   const std::size_t last = stem.rfind(U'е');
   if (last != std::u32string::npos) stems.emplace_back(stem)[last] = U'ё';
   return stems;
 }
 
+bool allows(std::u32string_view letters, std::u32string_view text, std::size_t at) {
+  return letters.empty() || (at < text.size() && is_one_of(letters, text[at]));
+}
+
 bool stands_behind(const HeadwordEnding& ending, std::u32string_view stem) {
-  return ending.after.empty() || (!stem.empty() && is_one_of(ending.after, stem.back()));
+  return allows(ending.after, stem, stem.size() - 1);
 }
 
 void append(Stems& stems, Stems more) {
@@ -187,10 +197,17 @@ class Candidates {
       stems.push_back(stem);
       append(stems, with_other_e(stem));
     }
-    if (form.alternates) append(stems, with_other_consonants(stem));
+    if (form.alternates) {
+      for (const std::u32string& changed : with_other_consonants(stem)) {
+        stems.push_back(changed);
+        if (form.groups.front() == WordGroup::kAdjective) append(stems, with_other_e(changed));
+      }
+    }
+    const std::u32string off = fold_e(word_.substr(stem.size()));
     for (const WordGroup group : form.groups) {
       for (const HeadwordEnding& row : headword_endings(group, form.number)) {
-        const std::u32string text = headword_ending(row, form.reflexive, stem.size());
+        if (!allows(row.from, off, 0)) continue;
+        const std::u32string text = headword_ending(row, form.reflexive, off.front());
         Stems all = stems;
         const bool verb = group == WordGroup::kVerb;
         if (!verb && (row.text.empty() || row.text == U"ь")) append(all, with_vowel(stem));
@@ -201,11 +218,10 @@ class Candidates {
     }
   }
 
-  // `first`: where the letters that were taken off begin.
-  std::u32string headword_ending(const HeadwordEnding& row, bool reflexive,
-                                 std::size_t first) const {
+  // `first` of the letters that were taken off.
+  static std::u32string headword_ending(const HeadwordEnding& row, bool reflexive, char32_t first) {
     std::u32string text(row.text);
-    if (text.starts_with(U'~')) text[0] = word_[first] == U'ё' ? U'е' : word_[first];
+    if (text.starts_with(U'~')) text[0] = first;
     if (reflexive) text += text.ends_with(U'ь') ? U"ся" : U"сь";
     return text;
   }

@@ -145,6 +145,81 @@ TEST_F(InflectedTest, CandidatesAreFewAndDifferent) {
   EXPECT_LE(most, 50u);
 }
 
+// Rules that no word of the sample dictionary needs: the headword must be among the candidates, and
+// must not be there for a form in brackets.
+TEST_F(InflectedTest, CandidatesOfOtherTypesOfWords) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"семья", "семей семьям"},
+      {"статья", "статей"},
+      {"жизнь", "жизней"},
+      {"церковь", "церквей"},
+      {"воробей", "воробьям воробьями воробью"},
+      {"третий", "третьего третьи третьих"},
+      {"молодой", "моложе"},
+      {"лёгкий", "легче"},
+      {"тихий", "тише"},
+      {"редкий", "реже"},
+      {"воевать", "воюя воюющих"},
+      {"вернуть", "верни верну"},
+      {"вернуться", "вернись вернитесь"},
+      {"исчезнуть", "исчезла исчезли"},
+      {"строить", "строй стройте строя"},
+      {"стоять", "стой стойте стоя"},
+      {"прятать", "прячь пряча"},
+      {"искать", "ища"},
+      {"собрать", "соберу соберите"},
+      {"разобрать", "разберут"},
+      {"назвать", "назову назовём"},
+      {"нести", "нёс несла неся несущий несущего нёсший несённый несена"},
+      {"вести", "вёл вела веду ведущими ведший (везу) (вёз) (везла)"},
+      {"везти", "везу вёз везла везущий везён (вёл) (вела)"},
+      {"расти", "расту растут"},
+      {"грести", "гребу гребла"},
+      {"упасть", "упав упавший упал"},
+      {"печь", "печём пекущий печённый"},
+      {"мочь", "можем могущий"},
+      {"тереть", "тёртый"},
+      {"бороться", "борюсь боролась"},
+      {"колоть", "коли колотый"},
+      {"пить", "пьющий пьющими"},
+      {"петь", "пою поёт пой"},
+      {"мыть", "моющего моя"},
+      {"дуть", "дует дул дующий"},
+      {"дыть", "(дует)"},
+      {"вставать", "встаю вставая встающий"},
+      {"понять", "понятый понят пойми"},
+      {"принять", "прими примут принятого"},
+      {"жать", "жми"},
+      {"дать", "(жду)"},
+      {"стать", "стань"},
+      {"жить", "живя живущая"},
+      {"съесть", "съем съешь"},
+      {"прийти", "приди придите"},
+      {"найти", "найдя найденный найдены"},
+      {"идти", "идущими идущий"},
+      {"смеяться", "смейся смеясь"},
+      {"заниматься", "занимающихся занимавшегося"},
+  };
+  const auto table = kzdic::load_table(place->path("ru.Dat"));
+  const auto encoded = [](const std::string& text) {
+    return kzdic::encode(kzdic::from_utf8(text), kzdic::CodePage::kRussian);
+  };
+  for (const auto& [headword, list] : cases) {
+    std::istringstream forms(list);
+    for (std::string form; forms >> form;) {
+      const bool miss = form.starts_with('(');
+      if (miss) form = form.substr(1, form.size() - 2);
+      const auto candidates = kzdic::headword_forms(encoded(form), *table);
+      EXPECT_NE(std::any_of(candidates.begin(), candidates.end(),
+                            [&, bytes = encoded(headword)](const kzdic::HeadwordForm& candidate) {
+                              return candidate.headword == bytes;
+                            }),
+                miss)
+          << form << " of " << headword;
+    }
+  }
+}
+
 TEST_F(InflectedTest, InflectShowsEndingsWithTheirClasses) {
   EXPECT_EQ(place->kzdic({"inflect", "ru.Dat", "Столами"}).out,
             "Столами  ами NM 1 | NF 1 | N 1 | NP 1\n"
