@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -35,16 +36,30 @@ std::string text_path(const std::string& path) {
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 bool is_latin(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
+// A number of 16 bits, perhaps with one character behind it.
+bool is_paradigm(std::string_view word) {
+  std::uint16_t number = 0;
+  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+  return error == std::errc() &&
+         from_utf8(word.substr(static_cast<std::size_t>(end - word.data()))).size() <= 1;
+}
+
 // What is wrong with the attributes of a line, empty if nothing is.
 std::string fault_of(const std::vector<std::string>& attributes) {
   if (attributes.empty()) return "an ending without attributes";
+  if (attributes.back() == "|") return "a record without attributes";
   int records = 1;
   std::int16_t kind = 0;
+  const std::string* before = nullptr;
   for (const std::string& word : attributes) {
-    if (word == "|") {
+    const bool bar = word == "|";
+    if (bar && (before == nullptr || *before == "|")) return "a record without attributes";
+    before = &word;
+    if (bar) {
       if (++records > kRecords) return "more than four records";
       kind = 0;
     } else if (is_digit(word[0])) {
+      if (!is_paradigm(word)) return "'" + word + "' is no paradigm";
       kind = kKinds - 1;
     } else if (!is_latin(word[0])) {
       return "'" + word + "' is no attribute";
@@ -59,7 +74,7 @@ std::string fault_of(const std::vector<std::string>& attributes) {
 
 // Windows-1251 lines of a text in UTF-8, all of which the library understands.
 std::string encode_text(const std::string& path) {
-  const SourceText source = read_source({path});
+  const SourceText source = read_source({path}, Marked::kComment);
   std::map<std::string, std::size_t> seen;
   std::string bytes;
   for (const SourceLine& line : source.lines) {

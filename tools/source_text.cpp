@@ -48,7 +48,7 @@ void take_directive(SourceText& source, const SourceLine& line) {
   *stated = value;
 }
 
-void read_lines(SourceText& source, std::istream& in) {
+void read_lines(SourceText& source, std::istream& in, Marked marked) {
   SourceLine line{source.files.size() - 1, 0, {}};
   while (std::getline(in, line.text)) {
     ++line.line;
@@ -56,7 +56,7 @@ void read_lines(SourceText& source, std::istream& in) {
       line.text.erase(0, kByteOrderMark.size());
     }
     if (line.text.ends_with('\r')) line.text.pop_back();
-    if (line.text.starts_with("*:")) {
+    if (marked == Marked::kDirective && line.text.starts_with("*:")) {
       take_directive(source, line);
     } else if (!line.text.empty() && line.text[0] != '*') {
       source.lines.push_back(line);
@@ -70,19 +70,19 @@ std::string SourceText::place(const SourceLine& line, const std::string& message
   return at_line(files[line.file], line.line, message);
 }
 
-SourceText read_source(const std::vector<std::string>& paths) {
+SourceText read_source(const std::vector<std::string>& paths, Marked marked) {
   SourceText source;
   for (const std::string& path : paths) {
     if (path == "-") {
       source.files.emplace_back("(standard input)");
-      read_lines(source, std::cin);
+      read_lines(source, std::cin, marked);
       continue;
     }
     source.files.push_back(path);
     errno = 0;
     std::ifstream in(path, std::ios::binary);
     if (!in) throw Failure(Status::kFile, path + ": cannot open: " + std::strerror(errno));
-    read_lines(source, in);
+    read_lines(source, in, marked);
     if (in.bad()) throw Failure(Status::kFile, path + ": cannot read: " + std::strerror(errno));
   }
   return source;

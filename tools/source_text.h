@@ -34,9 +34,12 @@ struct SourceText {
   std::string place(const SourceLine& line, const std::string& message) const;
 };
 
+// What a line that begins with "*:" is.
+enum class Marked { kDirective, kComment };
+
 // Reads the files in order; "-" is standard input. Files may repeat a directive but not contradict
 // one another. Throws Failure.
-SourceText read_source(const std::vector<std::string>& paths);
+SourceText read_source(const std::vector<std::string>& paths, Marked marked = Marked::kDirective);
 
 }  // namespace kzdic
 

@@ -257,6 +257,11 @@ TEST(InflectTable, RefusesWhatTheLibraryWouldPassOver) {
       {"а NM 1 Nx\n", "'Nx' is no name of kind 2", 4},
       {"а NM |NF\n", "'|NF' is no attribute", 4},
       {"а NM VT D1 D2\n", "one name too many", 4},
+      {"а NM |\n", "a record without attributes", 4},
+      {"а NM | | NF\n", "a record without attributes", 4},
+      {"а | NF\n", "a record without attributes", 4},
+      {"а NM 65536\n", "'65536' is no paradigm", 4},
+      {"а NM 12ab\n", "'12ab' is no paradigm", 4},
       {"* a\nа NM\nб NM\nа NF\n", "t.txt:4: the ending stands in line 2 too", 4},
       {" а NM\n", "begins with a letter", 4},
       {"日 NM\n", "is not in Windows-1251", 5},
@@ -271,7 +276,7 @@ TEST(InflectTable, RefusesWhatTheLibraryWouldPassOver) {
     EXPECT_THAT(outcome.err, HasSubstr(bad.message));
     EXPECT_FALSE(place.exists("x.Dat"));
   }
-  place.write("t.txt", "ами NM 12a D1 | NMa\r\nём NM\n");
+  place.write("t.txt", "*: a comment\nами NM 12a D1 | NMa\r\nём NM 65535я\n");
   EXPECT_EQ(place.kzdic({"inflect", "--build", "t.txt", "t.Dat"}).status, 2);  // would be replaced
   EXPECT_EQ(place.kzdic({"inflect", "--build", "t.txt", "x.dat"}).status, 2);
   EXPECT_EQ(place.kzdic({"inflect", "x.Dat", "столами"}).status, 3);
@@ -281,7 +286,7 @@ TEST(InflectTable, RefusesWhatTheLibraryWouldPassOver) {
             "столами  ами NM 12 D1 | NMa\n"
             "    noun, masculine, paradigm 12a, stem change D1\n"
             "    noun, masculine, animate\n"
-            "огнём  ём NM\n    noun, masculine\n");
+            "огнём  ём NM 65535\n    noun, masculine, paradigm 65535я\n");
   // The table is made anew, also where an older one is there.
   place.write("t.txt", "ами NF\n");
   EXPECT_EQ(place.kzdic({"inflect", "--build", "t.txt", "x.Dat", "столами"}).out,
