@@ -92,8 +92,9 @@ std::string code_point(char32_t c) {
 }
 
 Unmappable::Unmappable(char32_t c, CodePage code_page)
-    : std::runtime_error("the character '" + to_utf8(std::u32string_view(&c, 1)) + "' (" +
-                         code_point(c) + ") is not in " + name_of(code_page)),
+    // A zero would end the message.
+    : std::runtime_error("the character '" + to_utf8(std::u32string_view(&c, c == 0 ? 0 : 1)) +
+                         "' (" + code_point(c) + ") is not in " + name_of(code_page)),
       character(c),
       page(code_page) {}
 

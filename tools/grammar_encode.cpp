@@ -83,11 +83,13 @@ Written write_tags(char code, Grammar grammar) {
   return written;
 }
 
-// "gender=masculine,feminine person=NUMBER ...": what the part of speech has tags for.
-std::string vocabulary(char code) {
+// "gender=masculine,feminine" and so on: what the part of speech has tags for, of all fields or of
+// one name; empty if that has none.
+std::string vocabulary(char code, std::string_view only = {}) {
   std::vector<std::string> names;
   std::map<std::string, std::string> values;
   for (const Example& example : known_fields(code)) {
+    if (!only.empty() && example.field.name != only) continue;
     Grammar grammar = no_grammar();
     if (example.field.name.starts_with("paradigm-")) add_field(code, "paradigm=1", grammar);
     add_field(code, to_string(example.field), grammar);
@@ -121,20 +123,24 @@ std::size_t distance(std::string_view a, std::string_view b) {
   const std::size_t equals = text.find('=');
   std::string near;
   for (const Example& example : known_fields(code)) {
-    // Only words can be mistyped; what stands for a number or a letter cannot.
-    if (example.field.value.size() < 4 || !example.placeholder.empty()) continue;
+    // Only words can be mistyped; numbers, letters and flags cannot.
+    if (example.field.kind != Field::Kind::kWord) continue;
     const std::string known =
         equals == std::string::npos ? example.field.value : to_string(example.field);
     if (distance(text, known) > 2 || near.find(known) != std::string::npos) continue;
     near += (near.empty() ? "" : " or ") + known;
   }
   std::string message = "unknown field '" + text + "'";
-  if (near.empty()) {
-    message += "; " + part_of_speech(code) + " takes" + vocabulary(code);
-  } else {
-    message += "; did you mean " + near + "?";
+  if (!near.empty()) throw Failure(Status::kUsage, message + "; did you mean " + near + "?");
+  // Of a known name with another value, what the name takes.
+  std::string taken;
+  if (equals != 0) taken = vocabulary(code, std::string_view(text).substr(0, equals));
+  if (taken.empty()) {
+    taken = vocabulary(code);
+  } else if (equals != std::string::npos) {
+    message = "no such value: '" + text + "'";
   }
-  throw Failure(Status::kUsage, message);
+  throw Failure(Status::kUsage, message + "; " + part_of_speech(code) + " takes" + taken);
 }
 
 std::string joined(const std::vector<Field>& fields) {

@@ -95,6 +95,11 @@ constexpr std::int16_t kStemChanges = 2;
 
 constexpr std::uint32_t mask_of(const Entry& entry) { return (1u << entry.width) - 1; }
 
+// The greatest number of a numeric entry.
+constexpr int greatest(const Entry& entry) {
+  return entry.form == Form::kParadigm ? kNone - 1 : static_cast<int>(mask_of(entry));
+}
+
 // The bits of each word that the table names.
 constexpr std::array<std::uint32_t, 7> kNamed = [] {
   std::array<std::uint32_t, 7> bits{};
@@ -163,8 +168,8 @@ bool add_value(const Entry& entry, std::string_view value, Grammar& grammar) {
     case Form::kBit:
       if (value == entry.value) stored = 1;
       break;
-    case Form::kNumber: stored = number_of(value, 0, static_cast<int>(mask_of(entry))); break;
-    case Form::kParadigm: stored = number_of(value, 0, kNone - 1); break;
+    case Form::kNumber:
+    case Form::kParadigm: stored = number_of(value, 0, greatest(entry)); break;
     case Form::kLetter: {
       const std::string bytes = bytes_of(value);
       if (bytes.size() == 1) stored = static_cast<unsigned char>(bytes[0]);
@@ -309,7 +314,8 @@ std::vector<Example> known_fields(char code) {
         break;
       case Form::kNumber:
       case Form::kParadigm:
-        examples.push_back({{name, "1", Field::Kind::kNumber}, "NUMBER"});
+        examples.push_back(
+            {{name, "1", Field::Kind::kNumber}, "0.." + std::to_string(greatest(entry))});
         break;
       case Form::kLetter: examples.push_back({{name, "а"}, "LETTER"}); break;
       case Form::kBase:

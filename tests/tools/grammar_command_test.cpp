@@ -17,6 +17,7 @@ namespace {
 
 using kzdic::Decoded;
 using nlohmann::json;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
 std::vector<std::string> field_texts(const Decoded& decoded) {
@@ -108,16 +109,23 @@ TEST(GrammarFields, AreRefusedWhenNoTagStringSaysThem) {
   EXPECT_THAT(refusal("V", {"case=genitive,instrumental"}), HasSubstr("lost would be"));
   EXPECT_THAT(refusal("V", {"third-case=dative"}), HasSubstr("third-case=dative"));
   EXPECT_THAT(refusal("N", {"paradigm-base=D1"}), HasSubstr("paradigm-base=D1"));
-  EXPECT_THAT(refusal("A", {"flag=6/5"}), HasSubstr("unknown field"));
+  EXPECT_THAT(refusal("A", {"flag=6/5"}), HasSubstr("no such value"));
   EXPECT_THAT(refusal("A", {"flag=5/4"}), HasSubstr("flag=5/4"));
   EXPECT_THAT(refusal("N", {"masculin"}), HasSubstr("did you mean masculine?"));
   EXPECT_THAT(refusal("N", {"gender=femnine"}), HasSubstr("did you mean gender=feminine?"));
   EXPECT_THAT(refusal("I", {"colour=red"}), HasSubstr("number=plural\n  case=nominative,genitive"));
   for (const char* bad : {"person=4", "person=", "paradigm=65535", "small-number=32",
-                          "latin-tag=X12", "paradigm-letter=ab", "semantics=q", "flag=", "=", ""}) {
+                          "latin-tag=X12", "paradigm-letter=ab", "semantics=q", "flag=9/99"}) {
+    EXPECT_THAT(refusal("V", {bad}), HasSubstr("no such value: '" + std::string(bad))) << bad;
+  }
+  for (const char* bad : {"=", "=1", ""}) {
     EXPECT_THAT(refusal("V", {bad}), HasSubstr("unknown field")) << bad;
   }
+  EXPECT_THAT(refusal("V", {"person=4"}), EndsWith(" takes\n  person=0..3"));
+  EXPECT_THAT(refusal("V", {"gender"}), EndsWith(" takes\n  gender=masculine,feminine"));
   EXPECT_THAT(refusal("NN", {}), HasSubstr("not one character"));
+  EXPECT_THAT(kzdic::Unmappable(U'\0', kzdic::CodePage::kRussian).what(),
+              HasSubstr("U+0000) is not in Windows-1251"));
 }
 
 class GrammarCommandTest : public ::testing::Test {
