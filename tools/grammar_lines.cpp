@@ -5,6 +5,8 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 
+#include "tools/input_lines.h"
+
 namespace kzdic {
 
 void print_json(const nlohmann::ordered_json& object) {
@@ -22,8 +24,7 @@ std::pair<std::string, std::string> first_word(const std::string& line) {
 
 Status answer_lines(bool json, const std::function<Status(const std::string&)>& answer) {
   Status status = Status::kOk;
-  for (std::string line; std::getline(std::cin, line);) {
-    if (line.ends_with('\r')) line.pop_back();
+  for_each_line([&](const std::string& line) {
     Status one = Status::kOk;
     try {
       one = answer(line);
@@ -38,7 +39,7 @@ Status answer_lines(bool json, const std::function<Status(const std::string&)>& 
     if (!json) std::cout << '\n';
     std::cout.flush();
     if (status == Status::kOk) status = one;
-  }
+  });
   return status;
 }
 

@@ -15,6 +15,7 @@
 #include "tools/code_page.h"
 #include "tools/entry_layout.h"
 #include "tools/inflect_table.h"
+#include "tools/input_lines.h"
 
 namespace kzdic {
 namespace {
@@ -146,14 +147,6 @@ class Inflection {
     std::cout.flush();
   }
 
-  void answer_lines() {
-    std::string line;
-    while (std::getline(std::cin, line)) {
-      if (line.ends_with('\r')) line.pop_back();
-      answer(line, true);
-    }
-  }
-
   bool all_known() const { return all_known_; }
 
  private:
@@ -211,7 +204,7 @@ Status inflect(const InflectOptions& options) {
   Inflection session(options);
   for (const std::string& word : options.words) {
     if (word == "-") {
-      session.answer_lines();
+      for_each_line([&session](const std::string& line) { session.answer(line, true); });
     } else {
       session.answer(word, false);
     }

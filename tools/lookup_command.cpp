@@ -10,6 +10,7 @@
 
 #include "tools/entry_printer.h"
 #include "tools/inflect_table.h"
+#include "tools/input_lines.h"
 #include "tools/search.h"
 
 namespace kzdic {
@@ -54,14 +55,6 @@ class Lookup {
     std::cout.flush();
   }
 
-  void answer_lines() {
-    std::string line;
-    while (std::getline(std::cin, line)) {
-      if (line.ends_with('\r')) line.pop_back();
-      answer(line, true);
-    }
-  }
-
   bool all_found() const { return all_found_; }
 
  private:
@@ -104,7 +97,7 @@ Status lookup(const LookupOptions& options) {
   Lookup session(options);
   for (const std::string& word : options.words) {
     if (word == "-") {
-      session.answer_lines();
+      for_each_line([&session](const std::string& line) { session.answer(line, true); });
     } else {
       session.answer(word, false);
     }
