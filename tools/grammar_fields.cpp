@@ -1,4 +1,4 @@
-// One table of names and places, read in both directions.
+// The table of names and places, read in both directions.
 #include "tools/grammar_fields.h"
 
 #include <algorithm>
@@ -8,104 +8,15 @@
 
 #include "kz/gram_codec.h"
 #include "tools/code_page.h"
+#include "tools/grammar_entries.h"
 
 namespace kzdic {
 namespace {
 
-enum class Form {
-  kBit,     // the word says that it is set
-  kNumber,  // 0 for none
-  kLetter,  // a character, 0 for none
-  kParadigm,
-  kBase  // name of a stem change, or a number without one
-};
-
-struct Entry {
-  std::string_view name;
-  std::string_view value;  // of a bit
-  unsigned word;
-  unsigned shift;
-  unsigned width;
-  Form form;
-};
-
-constexpr Entry bit(std::string_view name, std::string_view value, unsigned word, unsigned at) {
-  return {name, value, word, at, 1, Form::kBit};
-}
-
-// In the order of output. A word alone means its first place here.
-constexpr std::array kEntries = {
-    bit("gender", "masculine", 1, 0),
-    bit("gender", "feminine", 1, 1),
-    bit("gender", "neuter", 1, 2),
-    bit("number", "singular", 1, 3),
-    bit("number", "plural", 1, 4),
-    bit("number", "no-plural", 1, 5),
-    bit("number", "no-singular", 1, 6),
-    bit("animacy", "animate", 1, 7),
-    bit("case", "nominative", 1, 16),
-    bit("case", "genitive", 1, 17),
-    bit("case", "dative", 1, 18),
-    bit("case", "accusative", 1, 19),
-    bit("case", "instrumental", 1, 20),
-    bit("case", "prepositional", 1, 21),
-    bit("second-case", "nominative", 2, 0),
-    bit("second-case", "genitive", 2, 1),
-    bit("second-case", "dative", 2, 2),
-    bit("second-case", "accusative", 2, 3),
-    bit("second-case", "instrumental", 2, 4),
-    bit("second-case", "prepositional", 2, 5),
-    bit("third-case", "nominative", 4, 8),
-    bit("third-case", "genitive", 4, 9),
-    bit("third-case", "dative", 4, 10),
-    bit("third-case", "accusative", 4, 11),
-    bit("third-case", "instrumental", 4, 12),
-    bit("third-case", "prepositional", 4, 13),
-    bit("extra-case", "genitive", 6, 14),
-    bit("extra-case", "dative", 6, 15),
-    bit("extra-case", "accusative", 6, 16),
-    bit("extra-case", "instrumental", 6, 17),
-    bit("extra-case", "prepositional", 6, 18),
-    Entry{"person", "", 5, 16, 2, Form::kNumber},
-    bit("tense", "past", 1, 10),
-    bit("tense", "present", 1, 13),
-    bit("tense", "future", 1, 14),
-    bit("mood", "imperative", 1, 12),
-    bit("aspect", "perfective", 1, 26),
-    bit("aspect", "imperfective", 1, 27),
-    bit("aspect", "perfective-mark", 1, 9),
-    bit("aspect", "never-perfective", 4, 17),
-    bit("transitivity", "transitive", 1, 8),
-    bit("transitivity", "intransitive", 4, 18),
-    bit("voice", "passive", 4, 20),
-    bit("voice", "reflexive", 1, 28),
-    bit("voice", "reflexive-mark", 1, 22),
-    Entry{"paradigm", "", 3, 8, 16, Form::kParadigm},
-    Entry{"paradigm-letter", "", 3, 24, 8, Form::kLetter},
-    Entry{"paradigm-base", "", 3, 0, 8, Form::kBase},
-    Entry{"small-letter", "", 6, 0, 8, Form::kLetter},
-    Entry{"small-number", "", 6, 19, 5, Form::kNumber},
-};
-
 constexpr std::string_view kFlag = "flag";
 constexpr std::string_view kSemantics = "semantics";
 constexpr std::string_view kLatinTag = "latin-tag";
-constexpr int kNone = 65535;  // the number of no paradigm
 constexpr std::int16_t kStemChanges = 2;
-
-constexpr std::uint32_t mask_of(const Entry& entry) { return (1u << entry.width) - 1; }
-
-// The greatest number of a numeric entry.
-constexpr int greatest(const Entry& entry) {
-  return entry.form == Form::kParadigm ? kNone - 1 : static_cast<int>(mask_of(entry));
-}
-
-// The bits of each word that the table names.
-constexpr std::array<std::uint32_t, 7> kNamed = [] {
-  std::array<std::uint32_t, 7> bits{};
-  for (const Entry& entry : kEntries) bits.at(entry.word) |= mask_of(entry) << entry.shift;
-  return bits;
-}();
 
 std::string utf8(std::string_view bytes) { return to_utf8(decode(bytes, CodePage::kRussian)); }
 
@@ -118,11 +29,11 @@ std::string bytes_of(std::string_view text) {
   }
 }
 
-std::uint32_t get(const Grammar& grammar, const Entry& entry) {
+std::uint32_t get(const Grammar& grammar, const GrammarEntry& entry) {
   return grammar.gram.word[entry.word] >> entry.shift & mask_of(entry);
 }
 
-void set(Grammar& grammar, const Entry& entry, std::uint32_t value) {
+void set(Grammar& grammar, const GrammarEntry& entry, std::uint32_t value) {
   std::uint32_t& word = grammar.gram.word[entry.word];
   word = (word & ~(mask_of(entry) << entry.shift)) | value << entry.shift;
 }
@@ -136,7 +47,7 @@ std::optional<int> number_of(std::string_view text, int least, int most) {
 }
 
 // A stored base: 0 and 255 mean none.
-std::optional<Field> base_field(const Entry& entry, std::uint32_t stored) {
+std::optional<Field> base_field(const GrammarEntry& entry, std::uint32_t stored) {
   const auto base = static_cast<std::int8_t>(stored);
   if (base == 0 || base == -1) return std::nullopt;
   const char* name = GetAttrNameStr(kStemChanges, base);
@@ -144,38 +55,38 @@ std::optional<Field> base_field(const Entry& entry, std::uint32_t stored) {
   return Field{std::string(entry.name), std::to_string(base), Field::Kind::kNumber};
 }
 
-std::optional<Field> field_of(const Entry& entry, const Grammar& grammar) {
+std::optional<Field> field_of(const GrammarEntry& entry, const Grammar& grammar) {
   const std::uint32_t stored = get(grammar, entry);
   Field field{std::string(entry.name), std::string(entry.value), Field::Kind::kWord};
   switch (entry.form) {
-    case Form::kBit:
+    case ValueForm::kBit:
       if (stored == 0) return std::nullopt;
       return field;
-    case Form::kLetter:
+    case ValueForm::kLetter:
       if (stored == 0) return std::nullopt;
       return Field{field.name, utf8(std::string(1, static_cast<char>(stored)))};
-    case Form::kBase: return base_field(entry, stored);
-    case Form::kNumber:
-    case Form::kParadigm: break;
+    case ValueForm::kBase: return base_field(entry, stored);
+    case ValueForm::kNumber:
+    case ValueForm::kParadigm: break;
   }
-  if (stored == (entry.form == Form::kParadigm ? kNone : 0)) return std::nullopt;
+  if (stored == (entry.form == ValueForm::kParadigm ? kNoParadigm : 0)) return std::nullopt;
   return Field{field.name, std::to_string(stored), Field::Kind::kNumber};
 }
 
-bool add_value(const Entry& entry, std::string_view value, Grammar& grammar) {
+bool add_value(const GrammarEntry& entry, std::string_view value, Grammar& grammar) {
   std::optional<int> stored;
   switch (entry.form) {
-    case Form::kBit:
+    case ValueForm::kBit:
       if (value == entry.value) stored = 1;
       break;
-    case Form::kNumber:
-    case Form::kParadigm: stored = number_of(value, 0, greatest(entry)); break;
-    case Form::kLetter: {
+    case ValueForm::kNumber:
+    case ValueForm::kParadigm: stored = number_of(value, 0, greatest(entry)); break;
+    case ValueForm::kLetter: {
       const std::string bytes = bytes_of(value);
       if (bytes.size() == 1) stored = static_cast<unsigned char>(bytes[0]);
       break;
     }
-    case Form::kBase: {
+    case ValueForm::kBase: {
       const std::int16_t index = GetAttrNameIndex(kStemChanges, std::string(value).c_str());
       stored = index >= 0 ? index : number_of(value, -128, 127);
       break;
@@ -193,10 +104,6 @@ Field flag_field(char code, unsigned word, unsigned at) {
   if (tag.empty()) tag = std::to_string(word) + "/" + std::to_string(at);
   return {std::string(kFlag), tag, Field::Kind::kFlag, static_cast<int>(word),
           static_cast<int>(at)};
-}
-
-bool is_flag(unsigned word, unsigned at) {
-  return word < 7 && at < 32 && !(kNamed[word] >> at & 1);
 }
 
 // A flag by its place, "4/0", or by its tag.
@@ -248,9 +155,10 @@ bool add_named(char code, std::string_view name, std::string_view value, Grammar
   if (name == kFlag) return add_flag(code, value, grammar);
   if (name == kSemantics) return add_semantics(value, grammar);
   if (name == kLatinTag) return add_latin_tag(value, grammar);
-  return std::any_of(kEntries.begin(), kEntries.end(), [&](const Entry& entry) {
-    return entry.name == name && add_value(entry, value, grammar);
-  });
+  return std::any_of(kGrammarEntries.begin(), kGrammarEntries.end(),
+                     [&](const GrammarEntry& entry) {
+                       return entry.name == name && add_value(entry, value, grammar);
+                     });
 }
 
 void append_semantics(const SEMANTICS& semantics, std::vector<Field>& fields) {
@@ -270,7 +178,7 @@ std::string to_string(const Field& field) { return field.name + "=" + field.valu
 
 std::vector<Field> fields_of(char code, const Grammar& grammar) {
   std::vector<Field> fields;
-  for (const Entry& entry : kEntries) {
+  for (const GrammarEntry& entry : kGrammarEntries) {
     if (const std::optional<Field> field = field_of(entry, grammar)) fields.push_back(*field);
   }
   for (unsigned word = 0; word < 7; ++word) {
@@ -291,9 +199,10 @@ std::vector<Field> fields_of(char code, const Grammar& grammar) {
 bool add_field(char code, std::string_view text, Grammar& grammar) {
   const std::size_t equals = text.find('=');
   if (equals == std::string_view::npos) {
-    return std::any_of(kEntries.begin(), kEntries.end(), [&](const Entry& entry) {
-      return entry.form == Form::kBit && add_value(entry, text, grammar);
-    });
+    return std::any_of(kGrammarEntries.begin(), kGrammarEntries.end(),
+                       [&](const GrammarEntry& entry) {
+                         return entry.form == ValueForm::kBit && add_value(entry, text, grammar);
+                       });
   }
   const std::string_view name = text.substr(0, equals);
   for (std::size_t begin = equals + 1; begin <= text.size();) {
@@ -306,19 +215,19 @@ bool add_field(char code, std::string_view text, Grammar& grammar) {
 
 std::vector<Example> known_fields(char code) {
   std::vector<Example> examples;
-  for (const Entry& entry : kEntries) {
+  for (const GrammarEntry& entry : kGrammarEntries) {
     const std::string name(entry.name);
     switch (entry.form) {
-      case Form::kBit:
+      case ValueForm::kBit:
         examples.push_back({{name, std::string(entry.value), Field::Kind::kWord}, ""});
         break;
-      case Form::kNumber:
-      case Form::kParadigm:
+      case ValueForm::kNumber:
+      case ValueForm::kParadigm:
         examples.push_back(
             {{name, "1", Field::Kind::kNumber}, "0.." + std::to_string(greatest(entry))});
         break;
-      case Form::kLetter: examples.push_back({{name, "а"}, "LETTER"}); break;
-      case Form::kBase:
+      case ValueForm::kLetter: examples.push_back({{name, "а"}, "LETTER"}); break;
+      case ValueForm::kBase:
         examples.push_back({{name, GetAttrNameStr(kStemChanges, 1)}, "NAME"});
         break;
     }
