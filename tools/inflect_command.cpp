@@ -14,6 +14,7 @@
 #include "kz/gram_record.h"
 #include "tools/code_page.h"
 #include "tools/entry_layout.h"
+#include "tools/grammar_fields.h"
 #include "tools/inflect_table.h"
 #include "tools/input_lines.h"
 
@@ -30,32 +31,6 @@ constexpr std::pair<std::string_view, std::string_view> kParts[] = {
     {"D", "adverb"},      {"I", "numeral"},      {"P", "preposition"},
     {"C", "conjunction"}, {"J", "interjection"}, {"w", "phrase"},
     {"M", "pronoun"},     {"O", "pronoun"},      {"R", "personal pronoun"},
-};
-
-struct Flag {
-  std::size_t word;
-  std::uint32_t bits;
-  std::string_view name;
-};
-
-constexpr Flag kFlags[] = {
-    {1, GRAM_MASCULINE, "masculine"},
-    {1, GRAM_FEMININE, "feminine"},
-    {1, GRAM_ANIMATE, "animate"},
-    {1, GRAM_NO_PLURAL, "no plural"},
-    {1, GRAM_NO_SINGULAR, "no singular"},
-    {1, GRAM_IMPERFECTIVE, "imperfective"},
-    {1, GRAM_PERFECTIVE, "perfective"},
-    {1, GRAM_REFLEXIVE, "reflexive"},
-    {1, GRAM_IMPERATIVE, "imperative"},
-    {1, GRAM_PAST, "past"},
-    {4, GRAM_PASSIVE, "passive"},
-    {1, GRAM_TRANSITIVE, "transitive"},
-    {4, GRAM_INTRANSITIVE, "intransitive"},
-    {1, GRAM_SINGULAR, "singular"},
-    {1, GRAM_PLURAL, "plural"},
-    {1, std::uint32_t{GRAM_NOMINATIVE} << GRAM_CASES_SHIFT, "nominative"},
-    {1, std::uint32_t{GRAM_GENITIVE} << GRAM_CASES_SHIFT, "genitive"},
 };
 
 std::string utf8(std::string_view bytes) { return to_utf8(decode(bytes, CodePage::kRussian)); }
@@ -82,14 +57,17 @@ struct Reading {
         stem_change(name_of_attribute(2, record[0] >> 16 & 0xFF)),
         paradigm(record[1] & 0xFFFF),
         letter(record[1] >> 16 & 0xFF) {
-    GRAMINFO gram{};
-    SetGrSrcAttr(&gram, record);
-    grammar.push_back(part_name(static_cast<char>(gram.word[2] >> GRAM_CODE_SHIFT)));
-    for (const Flag& flag : kFlags) {
-      if ((gram.word[flag.word] & flag.bits) != 0) grammar.emplace_back(flag.name);
+    Grammar read;
+    SetGrSrcAttr(&read.gram, record);
+    const char code = static_cast<char>(read.gram.word[2] >> GRAM_CODE_SHIFT);
+    grammar.push_back(part_name(code));
+    // Code and indices are no flags; the paradigm is told as the table has it.
+    read.gram.word[2] &= 0xFF;
+    read.gram.word[3] = no_grammar().gram.word[3];
+    for (const Field& field : fields_of(code, read)) {
+      if (field.kind == Field::Kind::kWord) grammar.push_back(field.value);
+      if (field.kind == Field::Kind::kNumber) grammar.push_back(field.name + ' ' + field.value);
     }
-    const std::uint32_t person = (gram.word[5] & GRAM_PERSON) >> GRAM_PERSON_SHIFT;
-    if (person != 0) grammar.push_back("person " + std::to_string(person));
   }
 
   std::string words() const {

@@ -226,7 +226,7 @@ TEST_F(InflectedTest, InflectShowsEndingsWithTheirClasses) {
             "    noun, masculine, paradigm 1\n"
             "    noun, feminine, paradigm 1\n"
             "    noun, paradigm 1\n"
-            "    noun, no singular, paradigm 1\n");
+            "    noun, no-singular, paradigm 1\n");
   const json answer =
       json::parse(place->kzdic({"inflect", "--all", "--json", "ru.Dat", "хожу"}).out);
   ASSERT_EQ(answer["endings"].size(), 2u);
