@@ -192,6 +192,10 @@ std::u32string decode(std::string_view bytes, CodePage page) {
   return text;
 }
 
+std::string russian_to_utf8(std::string_view bytes) {
+  return to_utf8(decode(bytes, CodePage::kRussian));
+}
+
 bool can_encode(char32_t character, CodePage page) {
   if (page == CodePage::kMixed) {
     return can_encode(character, CodePage::kRussian) || can_encode(character, CodePage::kWestern);

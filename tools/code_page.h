@@ -56,6 +56,8 @@ std::string to_utf8(std::u32string_view text);
 std::string encode(std::u32string_view text, CodePage page);
 // Bytes without a character become U+FFFD.
 std::u32string decode(std::string_view bytes, CodePage page);
+// The same as UTF-8, from Windows-1251.
+std::string russian_to_utf8(std::string_view bytes);
 
 // Appends the bytes of the characters up to the first that the page lacks. Returns their number.
 // Not for the mixed page.

@@ -22,8 +22,6 @@ std::string to_bytes(std::string_view text, const char* what) {
   }
 }
 
-std::string utf8(std::string_view bytes) { return to_utf8(decode(bytes, CodePage::kRussian)); }
-
 }  // namespace
 
 char code_byte(std::string_view code) {
@@ -42,11 +40,11 @@ Decoded decode_tags(std::string_view code, std::string_view tags) {
   decoded.tags = tags;
   std::string unread;
   decoded.grammar = read_tags(byte, text, &unread);
-  decoded.unread = utf8(unread);
-  decoded.ignored = utf8(ignored_characters(byte, text));
+  decoded.unread = russian_to_utf8(unread);
+  decoded.ignored = russian_to_utf8(ignored_characters(byte, text));
   decoded.fields = fields_of(byte, decoded.grammar);
   const std::string canonical = canonical_tags(byte, decoded.grammar);
-  decoded.canonical = utf8(canonical);
+  decoded.canonical = russian_to_utf8(canonical);
   const std::vector<Field> kept = fields_of(byte, read_tags(byte, canonical));
   for (const Field& field : decoded.fields) {
     if (std::find(kept.begin(), kept.end(), field) == kept.end()) decoded.left_out.push_back(field);

@@ -13,11 +13,9 @@ namespace {
 
 constexpr int kSmallNumberShift = 19;  // in word 6
 
-std::string utf8(std::string_view bytes) { return to_utf8(decode(bytes, CodePage::kRussian)); }
-
 std::string part_of_speech(char code) {
   const std::string_view group = tag_group(code);
-  std::string text = "part of speech " + utf8(std::string(1, code));
+  std::string text = "part of speech " + russian_to_utf8(std::string(1, code));
   if (!group.empty()) text += " (" + std::string(group) + " tags)";
   return text;
 }
@@ -166,7 +164,7 @@ std::string encode_fields(std::string_view code, const std::vector<std::string>&
     throw Failure(Status::kUsage, "no tag string of " + part_of_speech(byte) +
                                       " says all of it: lost would be " + joined(written.lost));
   }
-  return utf8(written.tags);
+  return russian_to_utf8(written.tags);
 }
 
 }  // namespace kzdic

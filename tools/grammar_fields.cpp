@@ -18,8 +18,6 @@ constexpr std::string_view kSemantics = "semantics";
 constexpr std::string_view kLatinTag = "latin-tag";
 constexpr std::int16_t kStemChanges = 2;
 
-std::string utf8(std::string_view bytes) { return to_utf8(decode(bytes, CodePage::kRussian)); }
-
 // Windows-1251; empty for text that it cannot hold.
 std::string bytes_of(std::string_view text) {
   try {
@@ -64,7 +62,7 @@ std::optional<Field> field_of(const GrammarEntry& entry, const Grammar& grammar)
       return field;
     case ValueForm::kLetter:
       if (stored == 0) return std::nullopt;
-      return Field{field.name, utf8(std::string(1, static_cast<char>(stored)))};
+      return Field{field.name, russian_to_utf8(std::string(1, static_cast<char>(stored)))};
     case ValueForm::kBase: return base_field(entry, stored);
     case ValueForm::kNumber:
     case ValueForm::kParadigm: break;
@@ -100,7 +98,7 @@ bool add_value(const GrammarEntry& entry, std::string_view value, Grammar& gramm
 Field flag_field(char code, unsigned word, unsigned at) {
   Grammar alone = no_grammar();
   alone.gram.word[word] |= 1u << at;
-  std::string tag = utf8(tag_for(code, alone));
+  std::string tag = russian_to_utf8(tag_for(code, alone));
   if (tag.empty()) tag = std::to_string(word) + "/" + std::to_string(at);
   return {std::string(kFlag), tag, Field::Kind::kFlag, static_cast<int>(word),
           static_cast<int>(at)};
@@ -166,7 +164,7 @@ void append_semantics(const SEMANTICS& semantics, std::vector<Field>& fields) {
   set_semantics(letters.data(), &semantics);
   const std::string text = letters.data();
   for (std::size_t i = 1; i < text.size(); ++i) {
-    fields.push_back({std::string(kSemantics), utf8(text.substr(i, 1))});
+    fields.push_back({std::string(kSemantics), russian_to_utf8(text.substr(i, 1))});
   }
 }
 

@@ -150,7 +150,12 @@ bool allows(std::u32string_view letters, std::u32string_view text, std::size_t a
   return letters.empty() || (at < text.size() && is_one_of(letters, text[at]));
 }
 
+// Verbs of the types 4 and 5 have stems of two letters or more: жены is a form of жена, not of
+// жить.
 bool stands_behind(const HeadwordEnding& ending, std::u32string_view stem) {
+  const bool longer =
+      ending.group == WordGroup::kVerb && (ending.number == 4 || ending.number == 5);
+  if (longer && stem.size() < 2) return false;
   return allows(ending.after, stem, stem.size() - 1);
 }
 

@@ -33,10 +33,8 @@ constexpr std::pair<std::string_view, std::string_view> kParts[] = {
     {"M", "pronoun"},     {"O", "pronoun"},      {"R", "personal pronoun"},
 };
 
-std::string utf8(std::string_view bytes) { return to_utf8(decode(bytes, CodePage::kRussian)); }
-
 std::string part_name(char code) {
-  const std::string letter = utf8(std::string_view(&code, 1));
+  const std::string letter = russian_to_utf8(std::string_view(&code, 1));
   for (const auto& [part, name] : kParts) {
     if (part == letter) return std::string(name);
   }
@@ -85,7 +83,7 @@ struct Reading {
 
   std::string letter_text() const {
     const char c = static_cast<char>(letter);
-    return c == 0 ? std::string() : utf8(std::string_view(&c, 1));
+    return c == 0 ? std::string() : russian_to_utf8(std::string_view(&c, 1));
   }
 
   std::string word_class;
@@ -135,7 +133,7 @@ class Inflection {
     std::istringstream words(text.data());
     std::string result;
     for (std::string word; words >> word;) result += (result.empty() ? "" : " ") + word;
-    return utf8(result);
+    return russian_to_utf8(result);
   }
 
   void print_text(const std::string& word, const std::vector<const CGrSrcWordObj*>& endings,
@@ -159,10 +157,11 @@ class Inflection {
         records.push_back(Reading(entry->attributes[i]).json());
       }
       const std::size_t length = std::strlen(entry->ending);
-      answer["endings"].push_back({{"ending", utf8(entry->ending)},
-                                   {"rest", utf8(bytes.substr(0, bytes.size() - length))},
-                                   {"attributes", attributes(*entry)},
-                                   {"records", records}});
+      answer["endings"].push_back(
+          {{"ending", russian_to_utf8(entry->ending)},
+           {"rest", russian_to_utf8(bytes.substr(0, bytes.size() - length))},
+           {"attributes", attributes(*entry)},
+           {"records", records}});
     }
     std::cout << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
   }
