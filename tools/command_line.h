@@ -3,12 +3,18 @@
 #ifndef KZ_TOOLS_COMMAND_LINE_H
 #define KZ_TOOLS_COMMAND_LINE_H
 
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "tools/status.h"
 
+namespace CLI {
+class App;
+}
+
 namespace kzdic {
+
+// Runs the command that the arguments tell, or prints help. The exit status; throws Failure.
+int run_command_line(int argc, char** argv, const char* version);
 
 // The whole command line. Parsing runs the command that was given, which leaves its exit status in
 // `status` or throws Failure.

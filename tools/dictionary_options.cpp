@@ -1,4 +1,6 @@
 // Options of the commands on whole dictionaries.
+#include <CLI/CLI.hpp>
+
 #include "tools/build_command.h"
 #include "tools/command_line.h"
 #include "tools/dump_command.h"

@@ -1,4 +1,6 @@
 // Options of the commands on grammar.
+#include <CLI/CLI.hpp>
+
 #include "tools/command_line.h"
 #include "tools/grammar_command.h"
 

@@ -1,4 +1,6 @@
 // Options of kzdic inflect.
+#include <CLI/CLI.hpp>
+
 #include "tools/command_line.h"
 #include "tools/inflect_command.h"
 

@@ -1,4 +1,6 @@
 // Options of kzdic lookup.
+#include <CLI/CLI.hpp>
+
 #include "tools/command_line.h"
 #include "tools/lookup_command.h"
 

@@ -5,29 +5,9 @@
 #include "tools/command_line.h"
 #include "tools/status.h"
 
-namespace {
-
-int run(int argc, char** argv) {
-  kzdic::Status status = kzdic::Status::kOk;
-  const auto app = kzdic::make_command_line(status);
-  app->set_version_flag("--version", "kzdic " KZ_VERSION);
-  try {
-    app->parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    // Help and version come this way, too.
-    if (app->exit(error) != 0) status = kzdic::Status::kUsage;
-    if (!std::cout.flush()) {
-      throw kzdic::Failure(kzdic::Status::kFile, "cannot write to standard output");
-    }
-  }
-  return static_cast<int>(status);
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
   try {
-    return run(argc, argv);
+    return kzdic::run_command_line(argc, argv, "kzdic " KZ_VERSION);
   } catch (const kzdic::Failure& failure) {
     std::cerr << "kzdic: " << failure.what() << '\n';
     return static_cast<int>(failure.status());

@@ -1,4 +1,6 @@
 // Options of the filters of texts.
+#include <CLI/CLI.hpp>
+
 #include <iostream>
 
 #include "tools/alphabet_commands.h"

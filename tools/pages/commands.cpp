@@ -1,6 +1,8 @@
 // The table of commands, read out of the parser.
+#include <CLI/CLI.hpp>
 #include <sstream>
 
+#include "tools/command_line.h"
 #include "tools/pages/pages.h"
 
 namespace kzdic::pages {
@@ -57,9 +59,10 @@ void add_commands(const CLI::App& app, const std::string& prefix, std::vector<Co
 
 }  // namespace
 
-std::vector<Command> commands_of(const CLI::App& app) {
+std::vector<Command> all_commands() {
+  Status status = Status::kOk;
   std::vector<Command> commands;
-  add_commands(app, "", commands);
+  add_commands(*make_command_line(status), "", commands);
   return commands;
 }
 

@@ -2,7 +2,6 @@
 #ifndef KZ_TOOLS_PAGES_PAGES_H
 #define KZ_TOOLS_PAGES_PAGES_H
 
-#include <CLI/CLI.hpp>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -31,8 +30,8 @@ struct Command {
   bool group = false;  // of commands, nothing by itself
 };
 
-// The commands of the application, those of groups included.
-std::vector<Command> commands_of(const CLI::App& app);
+// All commands of kzdic, those of groups included.
+std::vector<Command> all_commands();
 
 // Copies a page in scdoc's language, with the lines "@SYNOPSIS@" and "@OPTIONS@" replaced for every
 // command whose first word is `name`, and "@COMMANDS@" by a list of all commands.

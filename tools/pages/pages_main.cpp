@@ -5,13 +5,10 @@
 #include <fstream>
 #include <iostream>
 
-#include "tools/command_line.h"
 #include "tools/pages/pages.h"
 
 int main(int argc, char** argv) {
-  kzdic::Status status = kzdic::Status::kOk;
-  const auto app = kzdic::make_command_line(status);
-  const std::vector<kzdic::pages::Command> commands = kzdic::pages::commands_of(*app);
+  const std::vector<kzdic::pages::Command> commands = kzdic::pages::all_commands();
   const std::string kind = argc > 1 ? argv[1] : "";
   if (kind == "bash") {
     kzdic::pages::write_bash_completion(commands, std::cout);
