@@ -179,14 +179,8 @@ Status inflect(const InflectOptions& options) {
   }
   if (!options.source.empty()) build_table(options.source, options.table);
   Inflection session(options);
-  for (const std::string& word : options.words) {
-    if (word == "-") {
-      for_each_line([&session](const std::string& line) { session.answer(line, true); });
-    } else {
-      session.answer(word, false);
-    }
-  }
-  if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
+  for_each_word(options.words,
+                [&session](const std::string& word, bool line) { session.answer(word, line); });
   return session.all_known() ? Status::kOk : Status::kNotFound;
 }
 

@@ -3,6 +3,8 @@
 
 #include <iostream>
 
+#include "tools/status.h"
+
 namespace kzdic {
 
 void for_each_line(const std::function<void(const std::string&)>& answer) {
@@ -10,6 +12,18 @@ void for_each_line(const std::function<void(const std::string&)>& answer) {
     if (line.ends_with('\r')) line.pop_back();
     answer(line);
   }
+}
+
+void for_each_word(const std::vector<std::string>& words,
+                   const std::function<void(const std::string&, bool)>& answer) {
+  for (const std::string& word : words) {
+    if (word == "-") {
+      for_each_line([&answer](const std::string& line) { answer(line, true); });
+    } else {
+      answer(word, false);
+    }
+  }
+  if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
 }
 
 }  // namespace kzdic

@@ -95,14 +95,8 @@ Status lookup(const LookupOptions& options) {
   }
   if (options.words.empty()) throw Failure(Status::kUsage, "no word is given");
   Lookup session(options);
-  for (const std::string& word : options.words) {
-    if (word == "-") {
-      for_each_line([&session](const std::string& line) { session.answer(line, true); });
-    } else {
-      session.answer(word, false);
-    }
-  }
-  if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
+  for_each_word(options.words,
+                [&session](const std::string& word, bool line) { session.answer(word, line); });
   return session.all_found() ? Status::kOk : Status::kNotFound;
 }
 
