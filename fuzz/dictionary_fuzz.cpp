@@ -1,9 +1,9 @@
 // Opens arbitrary bytes as a dictionary and searches it in every mode.
 #include <cstdint>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 
+#include "fuzz/scratch.h"
 #include "kz/dictionary.h"
 #include "text/literal.h"
 
@@ -12,15 +12,7 @@ using kz::operator""_1252;
 
 namespace {
 
-// One file per process, rewritten for every input.
-const std::string& path() {
-  static const std::string result = [] {
-    std::string pattern = "/tmp/kz-dictionary-fuzz-XXXXXX";
-    if (mkdtemp(pattern.data()) == nullptr) std::abort();
-    return pattern + "/input.dic";
-  }();
-  return result;
-}
+std::string path() { return scratch_directory() + "input.dic"; }
 
 void search(CDic* dictionary) {
   constexpr int kSteps = 50;

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "fuzz/scratch.h"
 #include "kz/inflection.h"
 #include "kz/list_file.h"
 #include "kz/replace_buffer.h"
@@ -19,29 +20,19 @@ void require(bool condition) {
   if (!condition) std::abort();
 }
 
-// One directory per process, its files rewritten for every input.
-const std::string& directory() {
-  static const std::string result = [] {
-    std::string pattern = "/tmp/kz-table-fuzz-XXXXXX";
-    if (mkdtemp(pattern.data()) == nullptr) std::abort();
-    return pattern + "/";
-  }();
-  return result;
-}
-
 void write(const char* name, const std::string& bytes) {
-  std::ofstream(directory() + name, std::ios::binary) << bytes;
+  std::ofstream(scratch_directory() + name, std::ios::binary) << bytes;
 }
 
 // What was read from a text is read from the compiled form that it left behind.
 void check_inflection(const char* name, const std::string& bytes) {
-  std::filesystem::remove(directory() + "table.Dat");
-  std::filesystem::remove(directory() + "table.txt");
+  std::filesystem::remove(scratch_directory() + "table.Dat");
+  std::filesystem::remove(scratch_directory() + "table.txt");
   write(name, bytes);
   CGrSrcWordFlex first;
-  if (first.Load("table.Dat", directory().c_str(), 1) != 0) return;
+  if (first.Load("table.Dat", scratch_directory().c_str(), 1) != 0) return;
   CGrSrcWordFlex second;
-  require(second.Load("table.Dat", directory().c_str(), 1) == 0);
+  require(second.Load("table.Dat", scratch_directory().c_str(), 1) == 0);
   for (CGrSrcWordObj* entry = first.GetFirstFlex(); entry != nullptr; entry = first.GetNextFlex()) {
     char text[GR_SRC_FLEX_STRING_SIZE];
     require(std::strlen(first.GetStrAttr(entry, text)) < sizeof text);
@@ -58,13 +49,13 @@ void check_inflection(const char* name, const std::string& bytes) {
 void check_buffer(const std::string& bytes) {
   write("words.buf", bytes);
   CFindBuffer buffer(0);
-  if (buffer.Load((directory() + "words.buf").c_str()) != 0) return;
+  if (buffer.Load((scratch_directory() + "words.buf").c_str()) != 0) return;
   constexpr std::int16_t kNothingToSave = 196;
-  const std::int16_t saved = buffer.Save((directory() + "saved.buf").c_str());
+  const std::int16_t saved = buffer.Save((scratch_directory() + "saved.buf").c_str());
   require(saved == 0 || saved == kNothingToSave);
   if (saved != 0) return;
   CFindBuffer again(0);
-  require(again.Load((directory() + "saved.buf").c_str()) == 0);
+  require(again.Load((scratch_directory() + "saved.buf").c_str()) == 0);
   const std::string text = bytes.substr(0, 200).c_str();
   const std::unique_ptr<char[]> output(new char[text.size() * (bytes.size() + 1) + 1]);
   ChangeWord(&buffer, text.c_str(), output.get());
@@ -73,7 +64,7 @@ void check_buffer(const std::string& bytes) {
 void check_list(const std::string& bytes) {
   write("words.lst", bytes);
   CListFile list;
-  if (list.Load("words.lst", directory().c_str()) != 0) return;
+  if (list.Load("words.lst", scratch_directory().c_str()) != 0) return;
   for (std::int32_t i = 0; i < list.GetList()->GetSize(); ++i) {
     const auto* const item = static_cast<CListItem*>(list.GetList()->GetAt(i));
     require(list.FindObj(item->GetWordFor()) != nullptr);
