@@ -13,20 +13,11 @@
 #include <vector>
 
 #include "kz/gram_record.h"
-#include "text/literal.h"
+#include "tests/support/utf8.h"
 
 namespace reference {
 
-// Windows-1251 bytes of a UTF-8 text with letters of two bytes at most.
-inline std::string ansi(const std::string& utf8) {
-  std::string result;
-  for (std::size_t i = 0; i < utf8.size(); ++i) {
-    char32_t c = static_cast<unsigned char>(utf8[i]);
-    if (c >= 0xC0) c = (c & 31) << 6 | (static_cast<unsigned char>(utf8[++i]) & 63);
-    result += static_cast<char>(kz::to_1251(c));
-  }
-  return result;
-}
+using kz::test::encoded_1251;
 
 // The tables of docs/grammar.md, in Windows-1251.
 struct Bit {
@@ -64,7 +55,7 @@ inline Page read_page() {
   std::ifstream in(std::filesystem::path(__FILE__).parent_path() / "../../docs/grammar.md");
   std::string fence, heading;
   for (std::string utf8; std::getline(in, utf8);) {
-    const std::string line = ansi(utf8);
+    const std::string line = encoded_1251(utf8);
     if (line.starts_with("```")) {
       fence = line.substr(3);
     } else if (!fence.empty()) {
@@ -147,12 +138,12 @@ inline bool reads(char group, const std::string& tag) {
   return known.contains(group + tag);
 }
 
-inline const std::string case_letters = ansi("ИРДВТП");
-inline const std::string small_letters = ansi("абвгдеёжзийклмнопрстуфхцчшщъыьэюя");
-inline const std::string capitals = ansi("АБВГДЕЁЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ");
-inline const std::string case_capitals = ansi("ВГДЕЖЗИЙКЛМНОПРСТ");
-inline const std::string replacing_cases = ansi("ИРТ");  // of the verbs
-inline const std::string marked_cases = ansi("РДВТП");   // behind "&"
+inline const std::string case_letters = encoded_1251("ИРДВТП");
+inline const std::string small_letters = encoded_1251("абвгдеёжзийклмнопрстуфхцчшщъыьэюя");
+inline const std::string capitals = encoded_1251("АБВГДЕЁЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ");
+inline const std::string case_capitals = encoded_1251("ВГДЕЖЗИЙКЛМНОПРСТ");
+inline const std::string replacing_cases = encoded_1251("ИРТ");  // of the verbs
+inline const std::string marked_cases = encoded_1251("РДВТП");   // behind "&"
 
 // Semantic letters from bit 0 on.
 inline const std::string& semantic_letters() { return page().blocks.at("semantics")[0]; }

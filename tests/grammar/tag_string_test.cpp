@@ -12,7 +12,7 @@
 
 namespace {
 
-using reference::ansi;
+using reference::encoded_1251;
 
 constexpr std::uint32_t no_paradigm = 65535u << 8;
 
@@ -94,8 +94,8 @@ TEST(TagString, IsWrittenAndReadAsDocumented) {
   for (const auto& [code, text, canonical] : examples) {
     Result start;
     start.gram.word[3] = no_paradigm;
-    const Result result = read(ansi(text), code, start);
-    EXPECT_EQ(write(code, result.gram, result.semantics.word), ansi(canonical))
+    const Result result = read(encoded_1251(text), code, start);
+    EXPECT_EQ(write(code, result.gram, result.semantics.word), encoded_1251(canonical))
         << code << ' ' << text;
   }
 }
@@ -132,9 +132,10 @@ TEST(TagString, KeepsTheLatinTagAndTheCodeForTheCaller) {
 }
 
 TEST(TagString, MarksOfAmpersandGoIntoTheLastWord) {
-  const GRAMINFO gram = read(ansi("&аР12&Д&ёЖ"), 'W').gram;
-  EXPECT_EQ(gram.word[6], static_cast<std::uint32_t>(static_cast<unsigned char>(ansi("ё")[0])) |
-                              1u << 14 | 1u << 15 | 12u << 19);
+  const GRAMINFO gram = read(encoded_1251("&аР12&Д&ёЖ"), 'W').gram;
+  EXPECT_EQ(gram.word[6],
+            static_cast<std::uint32_t>(static_cast<unsigned char>(encoded_1251("ё")[0])) |
+                1u << 14 | 1u << 15 | 12u << 19);
 }
 
 // What reading the noun's tag of a bit sets besides.
@@ -208,7 +209,7 @@ TEST(TagString, AnySetOfFlagsReadsBack) {
 }
 
 TEST(TagString, ParadigmReadsBackButForNegativeBasesAndOtherLetters) {
-  const std::string letters = ansi("azAZаяЁё") + '\0';
+  const std::string letters = encoded_1251("azAZаяЁё") + '\0';
   std::mt19937 random(3);
   for (std::uint32_t number = 0; number < 65535; number += 13) {
     const auto letter = static_cast<unsigned char>(letters[random() % letters.size()]);
@@ -253,7 +254,7 @@ TEST(TagString, WritesWhatTheReferenceWrites) {
 }
 
 TEST(TagString, ReadsWhatTheReferenceReads) {
-  const std::string alphabet = ansi(
+  const std::string alphabet = encoded_1251(
       "ИРДВТПИРДВТПнгдаЁё!#123<>?@ACDEFGHIJKLMNOPQRSTUVWXYZ^abcdefghijklmnopqrstuvwxyz"
       "--------------###&&&&%$.=:::CCC0456789|)]\\");
   const std::string often = alphabet.substr(0, alphabet.size() - 4);  // few texts end early
@@ -291,7 +292,7 @@ TEST(TagString, CodeMayBeASignedCharacter) {
   GRAMINFO gram{};
   gram.word[1] = GRAM_NEUTER;
   char out[GRAM_STRING_SIZE];
-  const auto code = static_cast<unsigned char>(ansi("Д")[0]);
+  const auto code = static_cast<unsigned char>(encoded_1251("Д")[0]);
   EXPECT_STREQ(GramToStr(code, &gram, nullptr, out), "N#0");
   EXPECT_STREQ(GramToStr(static_cast<std::int16_t>(code - 256), &gram, nullptr, out), "N#0");
   GRAMINFO back{};
@@ -303,7 +304,7 @@ TEST(Semantics, EveryFlagHasItsLetterInTheWrittenOrder) {
   const SEMANTICS all{0xFFFFFFFF};
   char out[34];
   EXPECT_EQ(set_semantics(out, &all), out + 33);
-  EXPECT_EQ(out, ansi("%@NAWSOTPDIQnZCpMFGLarsd1234ioВТП"));
+  EXPECT_EQ(out, encoded_1251("%@NAWSOTPDIQnZCpMFGLarsd1234ioВТП"));
   for (std::uint32_t bit = 0; bit < 32; ++bit) {
     const SEMANTICS one{1u << bit};
     EXPECT_EQ(set_semantics(out, &one), out + 2);
