@@ -77,7 +77,8 @@ def main(root):
     faults = 0
     files = 0
     for folder in ALLOWED:
-        for path in sorted((root / folder).glob("*")):
+        place = root if folder in PUBLIC_ONLY else root / "common"
+        for path in sorted((place / folder).glob("*")):
             if path.suffix not in (".h", ".cpp", ".inc"):
                 continue
             files += 1

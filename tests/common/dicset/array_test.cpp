@@ -1,0 +1,272 @@
+// Arrays of descriptors: filling, loading, saving, parameter strings, chains.
+#include "kz/dic_array.h"
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "tests/common/dicset/set_fixture.h"
+
+namespace kz::test {
+namespace {
+
+const char* const kDirections[] = {"ENRU", "RUEN", "FRRU", "RUFR", "DERU", "RUDE"};
+
+TEST_F(SetTest, DescriptorsAreAppendedReplacedOrPutBehindTheEnd) {
+  const ZCObArray& array = *DicArraySelect(set_, nullptr);
+  EXPECT_EQ(DicArraySet(set_, -1, "a.dic", 1, 0), -1);
+  EXPECT_EQ(DicArraySet(set_, -1, "/x/b.dic", 2, 1), -1);
+  EXPECT_EQ(DicArraySet(set_, 0, "c.dic", 0x1FF, 1), 0);
+  EXPECT_EQ(DicArraySet(set_, 3, "d.dic", 0, 0), 3);
+  EXPECT_EQ(descriptors(array), (Names{"c.dic:255", "/x/b.dic:2", "-", directory_ + "d.dic:0"}));
+  EXPECT_EQ(static_cast<const CDicArray*>(array[0])->loaded, 1);
+
+  const std::string room(259 - directory_.size(), 'a'), full(259, 'a');
+  EXPECT_EQ(DicArraySet(set_, 1, room.c_str(), 0, 0), 1);
+  EXPECT_EQ(DicArraySet(set_, 2, full.c_str(), 0, 1), 2);
+  const auto before = descriptors(array);
+  EXPECT_EQ(DicArraySet(set_, 1, (room + "a").c_str(), 0, 0), -1);
+  EXPECT_EQ(DicArraySet(set_, 1, (full + "a").c_str(), 0, 1), -1);
+  EXPECT_EQ(DicArraySet(set_, 1, nullptr, 0, 1), -1);
+  EXPECT_EQ(descriptors(array), before);
+
+  DicArrayRemoveAll(set_, DicArraySelect(set_, nullptr));
+  EXPECT_EQ(array.GetSize(), 0);
+  DicSysSetLanguage(set_, "RU");
+  EXPECT_EQ(DicArraySet(set_, 0, "a.dic", 0, 0), -1);
+  EXPECT_EQ(DicArraySet(nullptr, 0, "a.dic", 0, 0), -1);
+}
+
+TEST_F(SetTest, DictionariesAreLookedForInThreePlaces) {
+  write("a.dic");
+  write("b.dic");
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::create_directory(dir_.file("work"));
+  std::filesystem::current_path(dir_.file("work"));
+  std::filesystem::rename(dir_.file("b.dic"), "b.dic");
+  std::ofstream(dir_.file("bad.dic")) << "no dictionary";
+
+  ZCObArray* const array = DicArraySelect(set_, nullptr);
+  DicArraySet(set_, -1, "/no/such/a.dic", 0, 1);  // in the directory of the set
+  DicArraySet(set_, 3, "/no/such/b.dic", 0, 1);   // in the current directory
+  EXPECT_EQ(DicArrayLoad(set_, array, 1), 0);
+  EXPECT_EQ(loaded(), (Names{"a.dic", "b.dic"}));
+  for (const char* missing : {"missing.dic", "bad.dic", ""}) {
+    DicArraySet(set_, 1, missing, 0, 1);
+    EXPECT_EQ(DicArrayLoad(set_, array, 1), 1) << missing;
+    EXPECT_EQ(DicArrayLoad(set_, array, 0), 0) << missing;
+    EXPECT_EQ(loaded(), (Names{"a.dic", "b.dic"}));
+  }
+  EXPECT_EQ(DicArrayLoad(set_, nullptr, 1), -1);
+  EXPECT_EQ(DicArrayLoad(nullptr, array, 1), -1);
+
+  DicArrayUnLoad(set_, array);
+  EXPECT_EQ(loaded(), Names{});
+  EXPECT_EQ(array->GetSize(), 0);
+  std::filesystem::current_path(before);
+}
+
+TEST_F(SetTest, PathsTooLongForAPlaceAreReportedLikeMissingOnes) {
+  CDicSys* const far = DicSysOpen(0, "ENRU", std::string(255, 'd').c_str());
+  DicArraySet(far, -1, "a.dic", 0, 1);  // completed when it is loaded
+  EXPECT_EQ(DicArraySet(far, -1, "a.dic", 0, 0), -1);
+  EXPECT_EQ(DicArrayLoad(far, DicArraySelect(far, nullptr), 1), 1);
+  DicSysLoadCommon(far);
+  for (const ZCObArray& array : far->directions) EXPECT_EQ(array.GetSize(), 0);
+  DicSysClose(far);
+}
+
+TEST_F(SetTest, BaseDictionariesOfAllDirectionsAreListedAndThoseOfOneLoaded) {
+  for (const char* name : {"basederu.dic", "baseru.dig", "basefrru.dic"}) {
+    write(name,
+          name[4] == 'd'   ? "DERU"
+          : name[4] == 'f' ? "FRRU"
+                           : "RU",
+          name[4] == 'r' ? 'G' : 'C');
+  }
+  open("DERU");
+  DicArraySet(set_, -1, "old.dic", 1, 0);
+  DicSysLoadCommon(set_);
+  const char* const general[] = {"ru", "en", "ru", "fr", "ru", "de"};
+  for (int i = 0; i < 6; ++i) {
+    std::string lower = kDirections[i];
+    for (char& c : lower) c = static_cast<char>(c | 0x20);
+    EXPECT_EQ(descriptors(set_->directions[i]),
+              (Names{directory_ + "base" + lower + ".dic:0",
+                     directory_ + "base" + general[i] + ".dig:0"}));
+  }
+  EXPECT_EQ(loaded(), (Names{"basederu.dic", "baseru.dig"}));
+  EXPECT_EQ(loaded(1), (Names{"basederu.dic"}));
+  EXPECT_EQ(loaded(2), (Names{"baseru.dig"}));
+  EXPECT_EQ(parameters(), "start\n-CDERU " + directory_ + "basederu.dic:0;" + directory_ +
+                              "baseru.dig:0\n-CRUDE " + directory_ + "baserude.dic:0;" +
+                              directory_ + "basede.dig:0");
+  EXPECT_STREQ(set_->language, "DERU");
+  DicArrayFree(set_);
+  EXPECT_EQ(parameters(), "start");
+}
+
+TEST_F(SetTest, PathListsAreTokensWithAModeBehindTheLastColon) {
+  struct Case {
+    std::string list;
+    Names expected;
+  };
+  const std::string path(259, 'p');
+  const Case cases[] = {
+      {"C:\\DIC\\a.dic:1;C:\\DIC\\b.dic:2", {"C:\\DIC\\a.dic:1", "C:\\DIC\\b.dic:2"}},
+      {" a.dic:1 ,;\tb.dic) c.dic:300;", {"a.dic:1", "b.dic:0", "c.dic:44"}},
+      {"C:\\DIC\\a.dic", {"C:0"}},  // the colon of the drive is the last one
+      {"a:b:3,a::4", {"a:b:3", "a::4"}},
+      {"a:x b: c:1x d:99999", {"a:0", "b:0", "c:0", "d:0"}},
+      {path + ":2 " + path + "p:2 " + path + ":0000002 " + path + ":00000002",
+       {path + ":2", path + ":2"}},
+      {" ;,)\t", {}},
+      {"", {}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.list);
+    EXPECT_EQ(DicArrayAddPath(set_, -1, "deruMORE", c.list.c_str()),
+              static_cast<int>(c.expected.size()) - 1);
+    EXPECT_EQ(descriptors(set_->directions[4]), c.expected);
+    EXPECT_EQ(set_->current_array, &set_->directions[0]);
+  }
+  EXPECT_EQ(DicArrayAddPath(set_, 2, "RUEN", "a:1;b:2"), 2);  // each at the position given
+  EXPECT_EQ(descriptors(set_->directions[1]), (Names{"-", "-", "b:2"}));
+  EXPECT_EQ(DicArrayAddPath(set_, -1, "RU", "a:1"), -1);
+  EXPECT_EQ(DicArrayAddPath(set_, -1, nullptr, "a:1"), -1);
+  EXPECT_EQ(DicArrayAddPath(set_, -1, "RUEN", nullptr), 0);
+  EXPECT_EQ(DicArrayAddPath(nullptr, -1, "RUEN", "a:1"), 0);
+  EXPECT_EQ(descriptors(set_->directions[1]), (Names{"-", "-", "b:2"}));
+}
+
+TEST_F(SetTest, AnArrayThatIsFilledAnewUnloadsItsDictionaries) {
+  const std::string a = write("a.dic"), b = write("b.dic");
+  DicArrayAddPath(set_, -1, "ENRU", (a + ":0").c_str());
+  DicArrayLoad(set_, DicArraySelect(set_, nullptr), 1);
+  DicQueLoad(set_, -1, b.c_str(), 0);
+  DicArrayAddPath(set_, -1, "ENRU", (b + ":0").c_str());
+  EXPECT_EQ(loaded(), (Names{"b.dic"}));
+}
+
+TEST_F(SetTest, ParameterStringsReadBackAsTheArraysTheyWereWrittenFrom) {
+  std::mt19937 random(5);
+  for (int round = 0; round < 500; ++round) {
+    const std::size_t d = random() % 6;
+    const std::string direction = kDirections[d];
+    const std::string inverse = direction.substr(2) + direction.substr(0, 2);
+    open(direction.c_str());
+    Names expected[2];
+    for (int side = 0; side < 2; ++side) {
+      DicArraySelect(set_, (side == 0 ? direction : inverse).c_str());
+      for (unsigned i = random() % 4; i > 0; --i) {
+        const std::string path = "C:/dir" + std::to_string(random() % 100) + "/d.dic";
+        const unsigned mode = random() % 256;
+        const auto slot =
+            static_cast<int16_t>(set_->current_array->GetSize() + static_cast<int>(random() % 2));
+        DicArraySet(set_, slot, path.c_str(), static_cast<int16_t>(mode), 1);
+        expected[side].push_back(path + ":" + std::to_string(mode));
+      }
+      if (random() % 4 == 0) DicArraySet(set_, -1, "", 3, 1);  // a descriptor without a path
+    }
+    DicSysSetLanguage(set_, direction.c_str());
+    std::string text = parameters();
+    EXPECT_EQ(set_->language, direction);
+
+    open(direction.c_str());
+    ASSERT_TRUE(text.starts_with("start"));
+    text.erase(0, 5);
+    Names read[2];
+    for (int side = 0; side < 2 && !text.empty(); ++side) {
+      const std::string code = side == 0 ? direction : inverse;
+      const std::string head = "\n-C" + code + " ";
+      if (!text.starts_with(head)) continue;
+      const std::size_t end = text.find('\n', 1);
+      const std::string list =
+          text.substr(head.size(), end == std::string::npos ? end : end - head.size());
+      text.erase(0, head.size() + list.size());
+      DicArrayAddPath(set_, -1, code.c_str(), list.c_str());
+      read[side] = descriptors(*DicArraySelect(set_, code.c_str()));
+    }
+    ASSERT_EQ(text, "");
+    ASSERT_EQ(read[0], expected[0]);
+    ASSERT_EQ(read[1], expected[1]);
+  }
+  open("RU");
+  EXPECT_EQ(parameters(), "start");
+  DicArrayParmStr(set_, nullptr);
+  DicArrayParmStr(nullptr, nullptr);
+}
+
+TEST_F(SetTest, UpdatingWritesTheQueueDownAndClearsTheModeFlag) {
+  const std::string enru = write("a.dic"), ruen = write("b.dic", "RUEN"),
+                    de = write("c.dic", "DERU");
+  struct Case {
+    const char* language;
+    Names expected;
+  };
+  const Case cases[] = {{"ENRU", {enru + ":2", ruen + ":128"}},
+                        {"RUEN", {ruen + ":0", enru + ":2", de + ":4"}},
+                        {"DERU", {de + ":4", ruen + ":0"}}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.language);
+    open(c.language);
+    CDic* const first = DicQueLoad(set_, -1, enru.c_str(), 2);
+    DicSetMode(set_, first, 128);
+    CDic* const second = DicQueLoad(set_, -1, ruen.c_str(), 0);
+    // The flag alone is a mode of its own, which stays.
+    if (c.language[0] == 'E') DicSetMode(set_, second, 128);
+    DicQueLoad(set_, -1, de.c_str(), 4);
+    DicArraySet(set_, -1, "old.dic", 1, 1);
+    EXPECT_EQ(DicArrayUpdate(set_), 0);
+    EXPECT_EQ(descriptors(*set_->current_array), c.expected);
+    EXPECT_EQ(DicGetMode(first), c.language[0] == 'D' ? 130 : 2);
+    DicSetOperationCode(set_, 1);
+    EXPECT_EQ(DicArrayUpdate(set_), 0);
+    EXPECT_EQ(set_->current_array->GetSize(), 0);
+  }
+  DicSysSetLanguage(set_, "RU");
+  EXPECT_EQ(DicArrayUpdate(set_), 0);
+  EXPECT_EQ(DicArrayUpdate(nullptr), -1);
+}
+
+TEST_F(SetTest, AChainSavesLists5And4AndLoadsThemAgain) {
+  const std::string ru = write("ru.dis", "RU", 'S'), en = write("en.dis", "EN", 'S');
+  const auto join = [&](int list, const std::string& path) {
+    CDic* const dictionary = DicQueLoad(set_, -1, path.c_str(), 0);
+    set_->queue.lists[list].Add(reinterpret_cast<ZCObject*>(dictionary));
+  };
+  join(4, ru);
+  join(5, en);
+  DicQueLoad(set_, -1, write("other.dic").c_str(), 0);
+  EXPECT_EQ(DicQueUpdateSpellDicChain(set_), -1);
+  EXPECT_EQ(descriptors(set_->spell_chain[0]), (Names{en + ":0"}));
+  EXPECT_EQ(descriptors(set_->spell_chain[1]), (Names{ru + ":0"}));
+  set_->queue.lists[4].RemoveAll();
+  EXPECT_EQ(DicQueUpdateThesaurusDicChain(set_), -1);
+  EXPECT_EQ(descriptors(set_->thesaurus_chain[0]), (Names{en + ":0"}));
+  EXPECT_EQ(set_->thesaurus_chain[1].GetSize(), 0);
+
+  EXPECT_EQ(DicQueLoadSpellDicChain(set_), 0);
+  EXPECT_EQ(loaded(), (Names{"other.dic", "en.dis", "ru.dis"}));
+  EXPECT_EQ(DicQueGetSize(set_, 4) + DicQueGetSize(set_, 5), 0);
+  std::filesystem::remove(en);
+  EXPECT_EQ(DicQueLoadSpellDicChain(set_), 1);
+  EXPECT_EQ(DicQueLoadThesaurusDicChain(set_), 1);
+
+  // A dictionary that is not the queue's leaves the list and stays open.
+  CDic* const own = DicQueOpen(set_, ru.c_str(), 0);
+  set_->queue.lists[5].Add(reinterpret_cast<ZCObject*>(own));
+  DicQueUnLoad(set_, ru.c_str(), 0);
+  DicQueClearSpellDicChain(set_);
+  EXPECT_EQ(DicQueGetSize(set_, 5), 0);
+  EXPECT_STREQ(DicFind(own, nullptr, 0, 2), "cat*Nru.dis");
+  DicClose(own);
+
+  for (const auto function : {DicQueLoadSpellDicChain, DicQueLoadThesaurusDicChain,
+                              DicQueUpdateSpellDicChain, DicQueUpdateThesaurusDicChain}) {
+    EXPECT_EQ(function(nullptr), 0);
+  }
+}
+
+}  // namespace
+}  // namespace kz::test

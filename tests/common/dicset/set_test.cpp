@@ -1,0 +1,155 @@
+// The dictionary set: buffers, directions, header services, iterators over its dictionaries.
+#include "kz/dic_set.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "kz/dic_error.h"
+#include "kz/dic_header.h"
+#include "kz/dic_iterator.h"
+#include "tests/common/dicset/set_fixture.h"
+
+namespace kz::test {
+namespace {
+
+// Offsets in a class with virtual functions are what the compiler lays out in practice.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+constexpr std::size_t P = sizeof(void*);
+static_assert(offsetof(CDicSys, buffer_flag) == P);
+static_assert(offsetof(CDicSys, language) == P + 1);
+static_assert(offsetof(CDicSys, operation_code) == P + 6);
+static_assert(offsetof(CDicSys, g_buffer) == P + 8);
+static_assert(offsetof(CDicSys, directory) == 4 * P + 8);
+static_assert(offsetof(CDicSys, queue) == 5 * P + 8);
+static_assert(offsetof(CDicSys, queue.list_dictionary) == offsetof(CDicSys, queue) + P);
+static_assert(offsetof(CDicSys, queue.lists) == offsetof(CDicSys, queue) + 15 * P);
+static_assert(offsetof(CDicSys, current_array) ==
+              offsetof(CDicSys, queue) + 15 * P + 6 * sizeof(ZCObArray) + (P == 4 ? 12 : 16));
+static_assert(sizeof(CDicSys) == offsetof(CDicSys, current_array) + P + 10 * sizeof(ZCObArray));
+static_assert(offsetof(CDicArray, loaded) == P && offsetof(CDicArray, mode) == 3 * P);
+static_assert(sizeof(CDicArray) == 4 * P);
+
+std::string bytes_of(const std::string& path) {
+  std::ostringstream out;
+  out << std::ifstream(path, std::ios::binary).rdbuf();
+  return out.str();
+}
+
+TEST(Set, BuffersAreZeroedAndOnlyMadeWhenAsked) {
+  for (const int16_t flag : {int16_t{1}, int16_t{255}}) {
+    CDicSys* const set = DicSysOpen(flag, nullptr, nullptr);
+    char* const buffers[] = {DicGetEBuf(set), DicGetGBuf(set)};
+    ASSERT_NE(buffers[0], buffers[1]);
+    for (char* buffer : buffers) {
+      EXPECT_EQ(std::count(buffer, buffer + DIC_SET_BUFFER_SIZE, 0), DIC_SET_BUFFER_SIZE);
+    }
+    DicSysClose(set);
+  }
+  CDicSys* const set = DicSysOpen(0, "ENRU", "/tmp/");
+  EXPECT_EQ(DicGetEBuf(set), nullptr);
+  EXPECT_EQ(DicGetGBuf(set), nullptr);
+  DicSysClose(set);
+  EXPECT_EQ(DicGetEBuf(nullptr), nullptr);
+  EXPECT_EQ(DicGetGBuf(nullptr), nullptr);
+  DicSysClose(nullptr);
+  EXPECT_EQ(CDicSys().buffer_flag, 1);
+}
+
+TEST_F(SetTest, TheDirectionSelectsItsArrayInAnyCase) {
+  const char* const directions[] = {"ENRU", "RUEN", "FRRU", "RUFR", "DERU", "RUDE"};
+  for (int i = 0; i < 6; ++i) {
+    ZCObArray* const array = &set_->directions[i];
+    EXPECT_EQ(DicArraySelect(set_, directions[i]), array);
+    DicSysSetLanguage(set_, nullptr);
+    EXPECT_EQ(DicArraySelect(set_, nullptr), nullptr);
+    std::string lower = directions[i];
+    for (char& c : lower) c = static_cast<char>(c | 0x20);
+    DicSysSetLanguage(set_, (lower + "more").c_str());
+    EXPECT_EQ(set_->language, lower);
+    EXPECT_EQ(set_->current_array, array);
+    open(directions[i]);
+    EXPECT_EQ(set_->current_array, &set_->directions[i]);
+  }
+  for (const char* none : {"RU", "EN", "ENFR", "", "ENR"}) {
+    EXPECT_EQ(DicArraySelect(set_, none), nullptr) << none;
+    EXPECT_EQ(DicArrayInit(set_), 1);
+    EXPECT_EQ(set_->current_array, nullptr);
+  }
+  DicSysSetLanguage(nullptr, "ENRU");
+  DicSetOperationCode(nullptr, 1);
+  EXPECT_EQ(DicArraySelect(nullptr, "ENRU"), nullptr);
+  EXPECT_EQ(DicArrayInit(nullptr), 0);
+}
+
+TEST_F(SetTest, HeadersOfLoadedDictionariesAreNotRewritten) {
+  const std::string path = write("a.dic");
+  const auto set_properties = [&](const char* file) {
+    return DicSysHeaderSetProperties(set_, file, "Title", nullptr, 7, "secret");
+  };
+  const std::string before = bytes_of(path);
+  DicQueLoad(set_, -1, path.c_str(), 0);
+  EXPECT_EQ(set_properties((directory_ + "A.DIC").c_str()), DIC_ERR_IN_USE);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_IN_USE);
+  EXPECT_EQ(bytes_of(path), before);
+  EXPECT_EQ(set_properties(nullptr), DIC_ERR_ARGUMENT);
+  EXPECT_EQ(DicSysHeaderSetProperties(nullptr, path.c_str(), "", "", 1, ""), -1);
+  DicQueClear(set_);
+  EXPECT_EQ(set_properties(path.c_str()), DIC_OK);
+  EXPECT_EQ(set_properties("/no/such.dic"), DIC_ERR_FILE);
+
+  // The password comes from the file, and from memory when the dictionary is loaded.
+  char password[8];
+  EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), password), password);
+  EXPECT_EQ(std::string(password, 8), std::string("secret\0\0", 8));
+  DicQueLoad(set_, -1, path.c_str(), 0);
+  std::ofstream(path) << "no dictionary any more";
+  std::memset(password, 'x', 8);
+  EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), password), password);
+  EXPECT_EQ(std::string(password, 8), std::string("secret\0\0", 8));
+  DicQueClear(set_);
+  EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), password), nullptr);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FORMAT);
+  EXPECT_EQ(DicSysGetDicPassword(set_, nullptr, password), nullptr);
+  EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), nullptr), nullptr);
+}
+
+TEST_F(SetTest, AnIteratorBorrowsTheLoadedDictionary) {
+  const std::string path = write("a.dic"), other = write("b.dic");
+  CDic* const loaded = DicQueLoad(set_, -1, path.c_str(), 2);
+  char word[80] = "", code[2], body[80];
+  for (const std::string& file : {path, other}) {
+    CDicSysEntryIterator* const iterator =
+        DicSysIteratorOpen(set_, file.c_str(), nullptr, "", 0, nullptr, 0);
+    ASSERT_NE(iterator, nullptr);
+    EXPECT_EQ(DicIteratorGetDicHandler(iterator) == loaded, file == path);
+    EXPECT_NE(DicIteratorGetFirstEntry(iterator, word, code, body, nullptr, 0), nullptr);
+    EXPECT_STREQ(word, "cat");
+    EXPECT_STREQ(body, file.substr(file.size() - 5).c_str());
+    EXPECT_EQ(iterator->GetNextEntry(word, code, body, nullptr), nullptr);
+    EXPECT_EQ(iterator->GetCounter(), 1);
+    EXPECT_STREQ(iterator->GetLanguage(nullptr), "ENRU");
+    // Opening again lets the borrowed dictionary go and finds the other one.
+    EXPECT_EQ(iterator->OpenIterator(set_, other.c_str(), nullptr, "", 0, nullptr, 0), iterator);
+    EXPECT_NE(iterator->GetFirstEntry(word, code, body, nullptr, 0), nullptr);
+    EXPECT_STREQ(body, "b.dic");
+    DicSysIteratorClose(iterator);
+  }
+  EXPECT_EQ(DicSysIteratorOpen(set_, path.c_str(), "!x", nullptr, 0, nullptr, 0), nullptr);
+  EXPECT_STREQ(DicFind(loaded, "cat", 0, 2), "cat*Na.dic");
+  EXPECT_EQ(DicSysIteratorOpen(set_, "/no/such.dic", nullptr, "", 0, nullptr, 0), nullptr);
+  DicSysIteratorClose(nullptr);
+
+  // Without a set the path is opened.
+  CDicSysEntryIterator* const alone =
+      DicSysIteratorOpen(nullptr, path.c_str(), nullptr, "", 0, nullptr, 0);
+  EXPECT_STREQ(DicIteratorGetFirstEntry(alone, word, code, body, nullptr, 0), "cat*Na.dic");
+  EXPECT_NE(DicIteratorGetDicHandler(alone), loaded);
+  DicSysIteratorClose(alone);
+}
+
+}  // namespace
+}  // namespace kz::test

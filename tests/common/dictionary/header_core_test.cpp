@@ -1,0 +1,150 @@
+// Acceptance and upgrade of headers as a dictionary open sees them.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "dictionary/header.h"
+#include "tests/common/dictionary/scratch_file.h"
+
+using namespace kz::test;
+
+namespace {
+
+constexpr std::uint64_t kFileLength = 1000;
+
+std::optional<kz::Header> accept(Bytes& bytes, std::uint64_t length = kFileLength) {
+  return kz::accept_header(kz::HeaderBytes(bytes.data(), kz::kHeaderSize), length);
+}
+
+std::uint32_t number(const Bytes& bytes, std::size_t at, std::size_t width) {
+  std::uint32_t value = 0;
+  for (std::size_t i = width; i-- > 0;) value = value << 8 | bytes[at + i];
+  return value;
+}
+
+TEST(AcceptHeader, DecodesTheCurrentLayout) {
+  Bytes bytes = sample_header();
+  const Bytes before = bytes;
+  const auto header = accept(bytes);
+  ASSERT_TRUE(header);
+  EXPECT_EQ(bytes, before);
+  EXPECT_STREQ(header->language.data(), "ENRU");
+  EXPECT_STREQ(header->type.data(), "C");
+  EXPECT_EQ(header->password[1], 0x82);
+  EXPECT_EQ(header->property, 0x52);
+  EXPECT_EQ(header->format_version, 0x0310);
+  EXPECT_EQ(header->index_depth, 3);
+  EXPECT_EQ(header->alphabet_size, 26);
+  EXPECT_EQ(header->index_offset, 500);
+  EXPECT_EQ(header->data_offset, 0x9Au);
+  EXPECT_EQ(header->file_size, 1000u);
+  EXPECT_EQ(static_cast<std::uint32_t>(header->time_stamp), 0x81020304u);
+  EXPECT_EQ(header->reserved2, 0xA1A2A3A4u);
+  EXPECT_EQ(header->checksum, 0xB1B2);
+  EXPECT_EQ(header->packing, 3);
+  EXPECT_EQ(header->shared_offset, 0xC1C2C3C4u);
+  EXPECT_EQ(header->index_count, 0x71727374);
+  EXPECT_EQ(header->shared_size, 0xD1D2D3D4u);
+}
+
+TEST(AcceptHeader, ComparesTheSignatureTextButNotItsPadding) {
+  for (std::size_t i = 0; i < 48; ++i) {
+    Bytes bytes = sample_header();
+    bytes[i] ^= 0x20;
+    EXPECT_EQ(accept(bytes).has_value(), i >= 44) << i;
+  }
+}
+
+TEST(AcceptHeader, TerminatesTextsThatTheFileDoesNot) {
+  Bytes bytes = sample_header();
+  put_text(bytes, 56, "ENRUxCx");
+  const auto header = accept(bytes);
+  ASSERT_TRUE(header);
+  EXPECT_STREQ(header->language.data(), "ENRU");
+  EXPECT_STREQ(header->type.data(), "C");
+}
+
+TEST(AcceptHeader, ChecksSizesOfUpgradedHeadersToo) {
+  Bytes bytes = first_generation_header();
+  EXPECT_TRUE(accept(bytes, 900));
+  bytes = first_generation_header();
+  EXPECT_FALSE(accept(bytes, 899));
+  bytes = first_generation_header();
+  put_number(bytes, 106, 4, 124);
+  EXPECT_FALSE(accept(bytes));
+}
+
+TEST(UpgradeHeader, MovesEveryFieldOfTheFirstGeneration) {
+  Bytes bytes = first_generation_header();
+  const auto header = accept(bytes);
+  ASSERT_TRUE(header);
+
+  Bytes expected(154, 0);
+  put_text(expected, 0, "KZ Dictionary 3.00 (C) 1997-1998 Corvane    ");
+  put_text(expected, 48, "OLDLABEL");
+  put_text(expected, 56, "ENRU");
+  put_text(expected, 61, "C");
+  put_text(expected, 63, "Old title");
+  expected[103] = 0x61;
+  expected[112] = 0x62;
+  put_number(expected, 113, 2, 256);
+  put_number(expected, 115, 2, 2);
+  put_number(expected, 117, 2, 26);
+  put_number(expected, 119, 4, 600);
+  put_number(expected, 123, 4, 124);
+  put_number(expected, 127, 4, 900);
+  put_number(expected, 131, 4, 0x12345678);
+  put_number(expected, 135, 4, 0x9ABCDEF0);
+  EXPECT_EQ(bytes, expected);
+  EXPECT_EQ(header->data_offset, number(expected, 123, 4));
+}
+
+TEST(UpgradeHeader, TellsLanguageAndTypeFromTheTwoLetters) {
+  const struct {
+    std::string letters;
+    const char* language;
+    const char* type;
+  } cases[] = {{"ER", "ENRU", "C"},
+               {"RE", "RUEN", "C"},
+               {std::string("E\0", 2), "EN", "G"},
+               {std::string("R\0", 2), "RU", "G"},
+               {"EE", "", ""},
+               {"er", "", ""},
+               {std::string("\0E", 2), "", ""}};
+  for (const auto& c : cases) {
+    Bytes bytes = first_generation_header();
+    put_text(bytes, 48, c.letters);
+    const auto header = accept(bytes);
+    ASSERT_TRUE(header);
+    EXPECT_STREQ(header->language.data(), c.language);
+    EXPECT_STREQ(header->type.data(), c.type);
+  }
+}
+
+TEST(UpgradeHeader, RefusesOtherVersionsAndDamagedSignatures) {
+  for (std::uint32_t version : {0u, 255u, 257u, 0x8100u}) {
+    Bytes bytes = first_generation_header();
+    put_number(bytes, 100, 2, version);
+    EXPECT_FALSE(accept(bytes)) << version;
+  }
+  for (std::size_t i = 0; i < 44; ++i) {
+    Bytes first = first_generation_header();
+    first[i] ^= 1;
+    EXPECT_EQ(accept(first).has_value(), i >= 40) << i;
+    Bytes second = second_generation_header();
+    EXPECT_TRUE(accept(second));
+    second[i] ^= 1;
+    EXPECT_FALSE(accept(second)) << i;
+  }
+}
+
+TEST(UpgradeHeader, LeavesTheSecondGenerationAsItIs) {
+  Bytes bytes = second_generation_header();
+  const Bytes before = bytes;
+  const auto header = accept(bytes);
+  ASSERT_TRUE(header);
+  EXPECT_EQ(bytes, before);
+  EXPECT_EQ(header->index_offset, 500);
+}
+
+}  // namespace

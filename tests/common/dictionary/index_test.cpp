@@ -1,0 +1,268 @@
+// Letter numbering, character tests, and the image that a written index leaves in the file.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "kz/dic_index.h"
+#include "kz/file.h"
+#include "tests/common/dictionary/scratch_file.h"
+#include "text/literal.h"
+
+using namespace kz::test;
+using kz::operator""_1251;
+
+namespace {
+
+// The 43 letters by their Windows-1252 codes.
+constexpr int kWestern[43] = {97,  224, 226, 228, 98,  99,  231, 100, 101, 232, 233,
+                              234, 235, 102, 103, 104, 105, 238, 239, 106, 107, 108,
+                              109, 110, 111, 244, 246, 156, 112, 113, 114, 115, 223,
+                              116, 117, 249, 251, 252, 118, 119, 120, 121, 122};
+
+TEST(LetterNumbering, WesternAlphabetHas43Letters) {
+  int found = 0;
+  for (int c = 0; c < 256; ++c) {
+    const int slot = lat_abc_index(c);
+    if (slot == 43) continue;
+    ++found;
+    ASSERT_LT(slot, 43);
+    EXPECT_EQ(kWestern[slot], c);
+    EXPECT_EQ(lat_index_abc(slot), c);
+    EXPECT_EQ(index_abc(slot, 43), c);
+    EXPECT_EQ(Index0(c, "FRRU", 43), slot);
+  }
+  EXPECT_EQ(found, 43);
+  EXPECT_EQ(lat_index_abc(-1), 0);
+  EXPECT_EQ(lat_index_abc(43), 0);
+}
+
+TEST(LetterNumbering, RussianLettersCountFromTheFirstAndYoIsYe) {
+  for (int c = 0; c < 256; ++c) {
+    const int slot = c >= 224 ? c - 224 : c == 184 ? 5 : 32;
+    EXPECT_EQ(ru_abc_index(c), slot) << c;
+    EXPECT_EQ(ru_abc_index(static_cast<signed char>(c)), slot) << c;
+    EXPECT_EQ(Index0(c, "RUEN", 32), slot) << c;
+  }
+  for (int slot = 0; slot < 32; ++slot) {
+    EXPECT_EQ(ru_index_abc(slot), 224 + slot);
+    EXPECT_EQ(index_abc(slot, 32), 224 + slot);
+  }
+  EXPECT_EQ(ru_index_abc(32), 0);
+  EXPECT_EQ(ru_index_abc(-1), 0);
+}
+
+TEST(LetterNumbering, LatinSlotsAreDistancesFromA) {
+  EXPECT_EQ(Index0('a', "ENRU", 26), 0);
+  EXPECT_EQ(Index0('z', nullptr, 26), 25);
+  EXPECT_EQ(Index0(0, "ENRU", 26), -97);
+  EXPECT_EQ(Index0(static_cast<signed char>(0xFF), "ENRU", 26), 255 - 97);
+  EXPECT_EQ(index_abc(0, 26), 'a');
+  EXPECT_EQ(index_abc(25, 26), 'z');
+}
+
+TEST(CharacterTests, AgreeWithTheListOfHeadwordMarks) {
+  const std::string_view marks = "0123456789 \"#$%&'()+,-./:;<=>@[]~";
+  ASSERT_EQ(marks.size(), 10u + 23u);
+  for (int c = 0; c < 256; ++c) {
+    const bool mark = marks.find(static_cast<char>(c)) != marks.npos;
+    EXPECT_EQ(kz_dict_is_valid_char(c), mark) << c;
+    EXPECT_EQ(kz_dict_is_valid_char1(c), c >= '0' && c <= '9') << c;
+    EXPECT_EQ(IsValidLetterForIndex1(c), !mark && c != '*') << c;
+    for (int n : {26, 32, 43}) {
+      EXPECT_EQ(Index1(c, "ENRU", n), mark || c == '*' || c == 0 ? n : Index0(c, "ENRU", n)) << c;
+    }
+  }
+}
+
+TEST(CharacterTests, WordsBeginWithLettersOrDigits) {
+  EXPECT_EQ(kz_dict_is_valid_en_word_begin("Q!"), 1);
+  EXPECT_EQ(kz_dict_is_valid_en_word_begin("7"), 1);
+  EXPECT_EQ(kz_dict_is_valid_en_word_begin("-a"), 0);
+  EXPECT_EQ(kz_dict_is_valid_en_word_begin(""), 0);
+  EXPECT_EQ(kz_dict_is_valid_en_word_begin(nullptr), 0);
+  EXPECT_EQ(kz_dict_is_valid_ru_word_begin(U"Ёж"_1251.data()), 1);
+  EXPECT_EQ(kz_dict_is_valid_ru_word_begin("7"), 1);
+  EXPECT_EQ(kz_dict_is_valid_ru_word_begin("a"), 0);
+  EXPECT_EQ(kz_dict_is_valid_ru_word_begin(nullptr), 0);
+
+  for (const char* word : {"ab", "a", "a*", "a-b", "1a", "12", "a b"}) {
+    EXPECT_EQ(IsValidWordBegin(word), 1) << word;
+  }
+  EXPECT_EQ(IsValidWordBegin(U"ёж"_1251.data()), 1);
+  for (const char* word : {"", "Ab", "aB", "a!", "-a", "*", "!"}) {
+    EXPECT_EQ(IsValidWordBegin(word), 0) << word;
+  }
+  EXPECT_EQ(IsValidWordBegin(nullptr), 0);
+}
+
+// Writes an index over words that stand one after the other from position 1000 on, 10 bytes each.
+class Writer {
+ public:
+  Writer(const char* language, std::int16_t alphabet_size, std::int16_t depth) {
+    EXPECT_EQ(file_.Open(scratch_.path(), 0x1002), 1);
+    EXPECT_EQ(index_.Init(0, language, "C", alphabet_size, 0, depth, 539, 0, 0), 1);
+    file_.Seek(1000, 0);
+  }
+
+  bool add(std::string_view word) {
+    index_.SetFileIndex(file_, std::string(word).c_str());
+    file_.Seek(10, 1);
+    return index_.IsIndexChanged() != 0;
+  }
+
+  Bytes image() {
+    file_.Seek(0, 0);
+    EXPECT_EQ(index_.Write(file_), 0);
+    return scratch_.read();
+  }
+
+ private:
+  ScratchFile scratch_;
+  ZCFile file_;
+  CDicIndex index_{'R'};
+};
+
+std::int32_t cell(const Bytes& image, int number) {
+  std::uint32_t value = 0;
+  for (std::size_t i = 4; i-- > 0;) {
+    value = value << 8 | image.at(static_cast<std::size_t>(number) * 4 + i);
+  }
+  return static_cast<std::int32_t>(value);
+}
+
+// Checks that an image holds the given cells and -1 everywhere else.
+void expect_cells(const Bytes& image, std::size_t size, const std::map<int, std::int32_t>& cells) {
+  ASSERT_EQ(image.size(), size);
+  for (int i = 0; i < static_cast<int>(size / 4); ++i) {
+    const auto expected = cells.find(i);
+    EXPECT_EQ(cell(image, i), expected == cells.end() ? -1 : expected->second) << i;
+  }
+}
+
+TEST(IndexImage, Depth2KeepsRowsOfSecondLettersWithTheHeadLast) {
+  Writer writer("ENRU", 26, 2);
+  EXPECT_TRUE(writer.add("b"));        // 1000: row head
+  EXPECT_FALSE(writer.add("b-x"));     // a mark counts as no letter
+  EXPECT_FALSE(writer.add("bZ"));      // nor has a capital a slot
+  EXPECT_TRUE(writer.add("ba"));       // 1030
+  EXPECT_FALSE(writer.add("bat"));     // same two letters
+  EXPECT_TRUE(writer.add("bz"));       // 1050
+  EXPECT_FALSE(writer.add("Bz"));      // no group without a first letter
+  EXPECT_TRUE(writer.add("ca*rest"));  // 1070: head and pair together
+  EXPECT_TRUE(writer.add("d*a"));      // 1080: the word ends before '*'
+  expect_cells(writer.image(), 2808,
+               {{27 + 26, 1000},
+                {27 + 0, 1030},
+                {27 + 25, 1050},
+                {54 + 26, 1070},
+                {54 + 0, 1070},
+                {81 + 26, 1080}});
+}
+
+TEST(IndexImage, Depth3KeepsTheSameOneLevelDown) {
+  Writer writer("RU", 32, 3);
+  const auto at = [](int i, int j, int k) { return (i * 33 + j) * 33 + k; };
+  EXPECT_TRUE(writer.add(U"ежа"_1251));   // 1000: row, pair and group
+  EXPECT_FALSE(writer.add(U"ёжа"_1251));  // the same slots
+  EXPECT_TRUE(writer.add(U"ежи"_1251));   // 1020
+  EXPECT_TRUE(writer.add(U"ел"_1251));    // 1030: a pair alone
+  EXPECT_TRUE(writer.add(U"ель"_1251));   // 1040
+  EXPECT_TRUE(writer.add(U"и-а"_1251));   // 1050: a mark, then a letter
+  EXPECT_FALSE(writer.add(U"и.а"_1251));
+  EXPECT_TRUE(writer.add(U"и-б"_1251));  // 1070
+  EXPECT_TRUE(writer.add(U"из"_1251));   // 1080
+  EXPECT_TRUE(writer.add(U"и-я"_1251));  // 1090: too late, but the cell is free
+  EXPECT_FALSE(writer.add(U"и-б"_1251));
+  EXPECT_FALSE(writer.add(U"из-за"_1251));
+  expect_cells(writer.image(), 139392,
+               {{at(5, 32, 32), 1000},
+                {at(5, 6, 32), 1000},
+                {at(5, 6, 0), 1000},
+                {at(5, 6, 8), 1020},
+                {at(5, 11, 32), 1030},
+                {at(5, 11, 28), 1040},
+                {at(8, 32, 32), 1050},
+                {at(8, 32, 0), 1050},
+                {at(8, 32, 1), 1070},
+                {at(8, 7, 32), 1080},
+                {at(8, 32, 31), 1090}});
+}
+
+TEST(IndexImage, Depth5ListsKeysOfFiveSixBitCodes) {
+  Writer writer("RU", 32, 5);
+  writer.add("1");             // every code 0
+  writer.add(U"а"_1251);       // 8
+  writer.add(U"а-б*"_1251);    // 8 4 9
+  writer.add(U"абвгд"_1251);   // 8 9 10 11 12
+  writer.add(U"абвгде"_1251);  // the same five
+  writer.add(U"абв Я"_1251);   // a capital cannot be indexed
+  writer.add(U"я ')/"_1251);   // 39 1 2 3 6
+  const auto key = [](std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d,
+                      std::uint32_t e) { return a << 24 | b << 18 | c << 12 | d << 6 | e; };
+  Bytes expected(5 * 8);
+  const std::pair<std::uint32_t, std::uint32_t> records[] = {{0, 1000},
+                                                             {key(8, 0, 0, 0, 0), 1010},
+                                                             {key(8, 4, 9, 0, 0), 1020},
+                                                             {key(8, 9, 10, 11, 12), 1030},
+                                                             {key(39, 1, 2, 3, 6), 1060}};
+  for (std::size_t i = 0; i < 5; ++i) {
+    put_number(expected, i * 8, 4, records[i].first);
+    put_number(expected, i * 8 + 4, 4, records[i].second);
+  }
+  EXPECT_EQ(writer.image(), expected);
+}
+
+TEST(IndexImage, Depth5HoldsAnyNumberOfKeys) {
+  Writer writer("RU", 32, 5);
+  for (char a : U"абв"_1251) {
+    for (int b = 224; b < 256; ++b) {
+      for (int c = 224; c < 256; ++c) {
+        EXPECT_TRUE(writer.add(std::string{a, static_cast<char>(b), static_cast<char>(c)}));
+      }
+    }
+  }
+  const Bytes image = writer.image();
+  ASSERT_EQ(image.size(), 3u * 32 * 32 * 8);
+  for (int i = 0; i < 3 * 32 * 32; ++i) {
+    const int key = (8 + i / 1024) << 24 | (8 + i / 32 % 32) << 18 | (8 + i % 32) << 12;
+    ASSERT_EQ(cell(image, 2 * i), key);
+    ASSERT_EQ(cell(image, 2 * i + 1), 1000 + 10 * i);
+  }
+}
+
+TEST(IndexImage, HasTheDocumentedSizesAndIsEmptyAtFirst) {
+  const struct {
+    std::int16_t alphabet_size, depth;
+    std::size_t size;
+  } cases[] = {{26, 2, 2808},   {32, 2, 4224},   {43, 2, 7568}, {26, 3, 75816},
+               {32, 3, 139392}, {43, 3, 332992}, {43, 5, 0}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(Writer("FR", c.alphabet_size, c.depth).image(), Bytes(c.size, 0xFF));
+  }
+}
+
+TEST(IndexImage, UnknownShapesAreRefused) {
+  CDicIndex index('R');
+  for (const std::int16_t depth : std::initializer_list<std::int16_t>{0, 1, 4, 6, -3}) {
+    EXPECT_EQ(index.Init(0, "EN", "C", 26, 0, depth, 0, 0, 0), 0) << depth;
+  }
+  for (const std::int16_t size : std::initializer_list<std::int16_t>{0, 25, 33, 256, -26}) {
+    EXPECT_EQ(index.Init(0, "EN", "C", size, 0, 2, 0, 0, 0), 0) << size;
+  }
+  EXPECT_EQ(index.Init(0, "RU", "C", 32, 0, 5, 0, 0, -1), 0);
+  EXPECT_EQ(index.Init(0, "RU", "C", 32, 0, 5, 0, 0, INT32_MAX), 0);
+  EXPECT_EQ(index.Init(0, "RU", "C", 32, 0, 2, 0, 0, -1), 1) << "no key records";
+}
+
+TEST(IndexImage, AFailedWriteIsReported) {
+  const ScratchFile scratch(Bytes(10));
+  ZCFile reader;
+  ASSERT_TRUE(reader.Open(scratch.path(), 0x8020));
+  CDicIndex index('R');
+  ASSERT_EQ(index.Init(0, "EN", "C", 26, 0, 2, 0, 0, 0), 1);
+  EXPECT_EQ(index.Write(reader), 195);
+}
+
+}  // namespace

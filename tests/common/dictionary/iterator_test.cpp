@@ -1,0 +1,277 @@
+// Entry iterators against the records that the dictionary was written from.
+#include "kz/dic_iterator.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "kz/dic_error.h"
+#include "kz/dictionary.h"
+#include "tests/common/dictionary/dictionary_file.h"
+#include "tests/common/dictionary/slow_dictionary.h"
+#include "tests/support/temp_dir.h"
+
+namespace kz::test {
+namespace {
+
+using kz::operator""_1251;
+using kz::operator""_1252;
+
+// What a walk hands out.
+struct Parts {
+  std::string record, headword, code, body, extra;
+  bool operator==(const Parts&) const = default;
+};
+
+void PrintTo(const Parts& p, std::ostream* out) {
+  *out << p.record << " -> " << p.headword << '|' << p.code << '|' << p.body << '|' << p.extra;
+}
+
+constexpr const char* kUntouched = "untouched";
+
+Parts split(const std::string& record) {
+  const std::size_t star = record.rfind('*');
+  Parts parts{record, record.substr(0, star), "", "", kUntouched};
+  if (star == std::string::npos || star + 1 == record.size()) return parts;
+  parts.code = record.substr(star + 1, 1);
+  const std::string rest = record.substr(star + 2);
+  const std::size_t end = rest.find('\\');
+  parts.body = rest.substr(0, end);
+  if (end == std::string::npos) return parts;
+  std::string tail = rest.substr(end);
+  if (!tail.starts_with("\\\\")) {
+    parts.extra = tail.substr(0, tail.find('\\', 1));
+    tail = tail.substr(parts.extra.size());
+  }
+  if (tail.starts_with("\\\\")) parts.headword = tail.substr(2);
+  return parts;
+}
+
+std::vector<Parts> walk(CDicEntryIterator* iterator, int16_t mode, const std::string& headword) {
+  std::vector<Parts> all;
+  std::array<char, DIC_ENTRY_ROOM> word{}, body{}, extra{};
+  char code[2];
+  headword.copy(word.data(), headword.size());
+  std::string(kUntouched).copy(extra.data(), extra.size());
+  const char* record =
+      DicIteratorGetFirstEntry(iterator, word.data(), code, body.data(), extra.data(), mode);
+  while (record != nullptr) {
+    all.push_back({record, word.data(), code, body.data(), extra.data()});
+    EXPECT_EQ(DicIteratorGetCounter(iterator), static_cast<int>(all.size()));
+    extra = {};
+    std::string(kUntouched).copy(extra.data(), extra.size());
+    record = DicIteratorGetNextEntry(iterator, word.data(), code, body.data(), extra.data());
+  }
+  return all;
+}
+
+// The range and the filter of a walk.
+struct Wish {
+  const char* from = nullptr;
+  const char* to = nullptr;
+  const char* filter = nullptr;
+  int16_t include = 0;
+};
+
+class IteratorTest : public testing::Test {
+ protected:
+  std::string random_word(const std::string& letters) {
+    std::string word(1 + random_() % 4, ' ');
+    for (char& c : word) c = letters[random_() % letters.size()];
+    return word;
+  }
+
+  DictionaryFile random_dictionary() {
+    DictionaryFile file;
+    const int kind = static_cast<int>(random_() % 4);
+    const std::string letters[] = {"abcmyz", std::string(U"абеёмюя"_1251),
+                                   std::string(U"aäbcüuz"_1252), "abyz19"};
+    const char* const languages[] = {"ENRU", "RUEN", "DERU", "EN"};
+    file.language = languages[kind];
+    file.alphabet_size = kind == 1 ? 32 : kind == 2 ? 43 : 26;
+    file.depth = kind == 1 && random_() % 2 != 0 ? 5 : random_() % 2 != 0 ? 3 : 2;
+    file.type = kind == 3 ? 'S' : 'C';
+    // A packed record cannot hold the letter yo.
+    file.packing = kind == 1 ? 0 : static_cast<int>(random_() % 2);
+    const std::string rests[] = {
+        "N1.a", "v",     "n\\x1\\y2", "Vb\\\\Shown form",    "n\\4\\\\Form", "Adjbo[dy]*m", "",
+        "N\\",  "N\\\\", "vb*",       "A\\one\\two\\\\three"};
+    std::vector<std::string> words;
+    for (std::size_t i = 0; i < 1 + random_() % 60; ++i)
+      words.push_back(random_word(letters[kind]));
+    std::sort(words.begin(), words.end());
+    words.erase(std::unique(words.begin(), words.end()), words.end());
+    for (const auto& word : words)
+      file.records.push_back({word, rests[random_() % std::size(rests)]});
+    letters_ = letters[kind];
+    return file;
+  }
+
+  // The unsigned code of a letter, without its accent.
+  static int base(char c, const std::string& language) {
+    const auto is = [c](unsigned char letter) { return c == static_cast<char>(letter); };
+    if (language[0] == 'R') return is(U'ё'_1251) ? U'е'_1251 : static_cast<unsigned char>(c);
+    if (language[0] == 'D' && is(U'ä'_1252)) return 'a';
+    if (language[0] == 'D' && is(U'ü'_1252)) return 'u';
+    return static_cast<unsigned char>(c);
+  }
+
+  static bool passes(const Wish& wish, const Parts& parts) {
+    const std::string filter = wish.filter != nullptr ? wish.filter : "";
+    if (filter.empty()) return true;
+    const bool listed = !parts.code.empty() && filter.find(parts.code) != std::string::npos;
+    return listed == (wish.include != 0);
+  }
+
+  static std::vector<Parts> expected(const std::vector<std::string>& records,
+                                     const std::string& language, const Wish& wish, bool skip) {
+    const std::string from = wish.from != nullptr ? wish.from : "";
+    const std::string to = wish.to != nullptr ? wish.to : "";
+    const bool russian = language[0] == 'R';
+    const auto first = russian ? static_cast<char>(U'а'_1251) : 'a';
+    const auto last = russian ? static_cast<char>(U'я'_1251) : 'z';
+    const char start = from.empty() ? first : from[0];
+    const char end = wish.to == nullptr ? start : to.empty() ? last : to[0];
+    std::vector<Parts> result;
+    bool begun = !skip || start == first;
+    for (const std::string& record : records) {
+      begun = begun || base(record[0], language) == base(start, language);
+      if (!begun) continue;
+      if (base(record[0], language) > base(end, language)) break;
+      if (passes(wish, split(record))) result.push_back(split(record));
+    }
+    return result;
+  }
+
+  Wish random_wish() {
+    static std::string from, to;
+    static const char* const filters[] = {nullptr, "", "nv", "N", "nvNVA"};
+    from = random_() % 3 == 0 ? "" : random_word(letters_);
+    if (random_() % 8 == 0) from = "!" + from;
+    to = random_() % 3 == 0 ? "" : random_word(letters_);
+    return {random_() % 4 == 0 ? nullptr : from.c_str(), random_() % 3 == 0 ? nullptr : to.c_str(),
+            filters[random_() % std::size(filters)], static_cast<int16_t>(random_() % 2)};
+  }
+
+  TempDir dir_;
+  const std::string path_ = dir_.file("d.dic");
+  std::mt19937 random_{11};
+  std::string letters_;
+};
+
+// All records from the first one, or from where a search finds the word.
+std::vector<std::string> records_from(SlowDictionary& slow, const char* word, int16_t mode) {
+  std::vector<std::string> records;
+  for (auto record = slow.find(word, mode); record; record = slow.next())
+    records.push_back(*record);
+  return records;
+}
+
+TEST_F(IteratorTest, WalksTheRecordsOfTheRangeThatPassTheFilter) {
+  for (int round = 0; round < 150; ++round) {
+    DictionaryFile file = random_dictionary();
+    SlowDictionary slow(file.write(path_));
+    const auto all = records_from(slow, nullptr, 0);
+    ASSERT_EQ(all.size(), file.records.size());
+    for (const int16_t mode : {int16_t{-1}, int16_t{0}, int16_t{1}, int16_t{2}, int16_t{4}}) {
+      CDic* dictionary = mode >= 0 ? DicOpen(path_.c_str(), mode) : nullptr;
+      const Wish wish = random_wish();
+      // No word of any dictionary begins like this; others count even when there are none.
+      const bool indexed = wish.from == nullptr || *wish.from != '!';
+      const auto open = [&] {
+        return DicIteratorOpen(dictionary, path_.c_str(), wish.from, wish.to, 77, wish.filter,
+                               wish.include);
+      };
+      CDicEntryIterator* const iterator = open();
+      ASSERT_EQ(iterator != nullptr, indexed);
+      if (iterator == nullptr) {
+        // The caller's dictionary is still the caller's.
+        EXPECT_EQ(dictionary != nullptr, DicFind(dictionary, nullptr, 0, 2) != nullptr);
+        DicClose(dictionary);
+        continue;
+      }
+      char language[5];
+      EXPECT_EQ(DicIteratorGetLanguage(iterator, language),
+                DicIteratorGetLanguage(iterator, nullptr));
+      EXPECT_EQ(language, file.language);
+      EXPECT_TRUE(dictionary == nullptr || DicIteratorGetDicHandler(iterator) == dictionary);
+      const auto wanted = expected(all, file.language, wish, true);
+      ASSERT_EQ(walk(iterator, 0, ""), wanted);
+      ASSERT_EQ(walk(iterator, 0, "anything"), wanted);  // a first call begins again
+
+      const std::string& word = file.records[random_() % file.records.size()].word;
+      for (const int16_t search : {int16_t{1}, int16_t{2}, int16_t{-1}}) {
+        if (mode == 1) break;
+        ASSERT_EQ(walk(iterator, search, word),
+                  expected(records_from(slow, word.c_str(), search), file.language, wish, false));
+      }
+      DicIteratorClose(iterator);
+    }
+  }
+}
+
+TEST_F(IteratorTest, WithoutAHeadwordASearchTakesTheFirstLetterOfTheRange) {
+  DictionaryFile file;
+  for (const char* word : {"apple", "bear", "bee", "cat"}) file.records.push_back({word, "N1"});
+  file.write(path_);
+  CDicEntryIterator walker;
+  EXPECT_EQ(walker.OpenIterator(nullptr, path_.c_str(), "!be", "", 0, nullptr, 0), nullptr);
+  // The first letter counts; no word need begin with the others.
+  ASSERT_EQ(walker.OpenIterator(nullptr, path_.c_str(), "bob", "", 0, nullptr, 0), &walker);
+  char word[80] = "";
+  EXPECT_STREQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, -1), "bear*N1");
+  EXPECT_STREQ(walker.GetFirstEntry(nullptr, nullptr, nullptr, nullptr, -1), "bear*N1");
+  EXPECT_STREQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, -1), "bear*N1");
+  EXPECT_STREQ(word, "bear");
+  EXPECT_STREQ(walker.GetNextEntry(word, nullptr, nullptr, nullptr), "bee*N1");
+  EXPECT_EQ(walker.GetCounter(), 2);
+
+  // Opening again closes first, and works on another dictionary.
+  DictionaryFile other;
+  other.records = {{"zebra", "N"}};
+  other.write(dir_.file("z.dic"));
+  CDic* const borrowed = DicOpen(dir_.file("z.dic").c_str(), 0);
+  walker.OpenIterator(borrowed, nullptr, nullptr, "", 0, nullptr, 0);
+  EXPECT_STREQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, 0), "zebra*N");
+  walker.CloseIterator(1);  // the dictionary is left open
+  EXPECT_EQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, 0), nullptr);
+  EXPECT_EQ(walker.GetNextEntry(word, nullptr, nullptr, nullptr), nullptr);
+  EXPECT_EQ(walker.GetLanguage(nullptr), nullptr);
+  EXPECT_EQ(walker.GetDicHandler(), nullptr);
+  EXPECT_STREQ(DicFind(borrowed, "zebra", 0, 2), "zebra*N");
+  DicClose(borrowed);
+}
+
+TEST_F(IteratorTest, MissingIteratorsAndFilesGiveNothing) {
+  EXPECT_EQ(DicIteratorOpen(nullptr, "/no/such.dic", nullptr, "", 0, nullptr, 0), nullptr);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FILE);
+  EXPECT_EQ(DicIteratorOpen(nullptr, nullptr, nullptr, "", 0, nullptr, 0), nullptr);
+  char text[8] = "";
+  EXPECT_EQ(DicIteratorGetFirstEntry(nullptr, text, text, text, text, 0), nullptr);
+  EXPECT_EQ(DicIteratorGetNextEntry(nullptr, text, text, text, text), nullptr);
+  EXPECT_EQ(DicIteratorGetLanguage(nullptr, text), nullptr);
+  EXPECT_EQ(DicIteratorGetCounter(nullptr), 0);
+  EXPECT_EQ(DicIteratorGetDicHandler(nullptr), nullptr);
+  DicIteratorClose(nullptr);
+}
+
+TEST_F(IteratorTest, LongWordsAreCutToTheirFields) {
+  DictionaryFile file;
+  file.records = {{"aaa", "N"}, {"bbb", "N"}};
+  file.write(path_);
+  const std::string from(500, 'a'), to(500, 'b');
+  CDicEntryIterator* const iterator =
+      DicIteratorOpen(nullptr, path_.c_str(), from.c_str(), to.c_str(), 0, nullptr, 0);
+  ASSERT_NE(iterator, nullptr);
+  EXPECT_EQ(walk(iterator, 0, "").size(), 2U);
+  DicIteratorClose(iterator);
+}
+
+}  // namespace
+}  // namespace kz::test

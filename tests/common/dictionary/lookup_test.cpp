@@ -1,0 +1,518 @@
+// Searches in dictionaries of every form, held against a slow reader of the same files.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "kz/dic_error.h"
+#include "kz/dic_index.h"
+#include "kz/dictionary.h"
+#include "kz/entry.h"
+#include "kz/file.h"
+#include "tests/common/dictionary/dictionary_file.h"
+#include "tests/common/dictionary/slow_dictionary.h"
+#include "tests/support/temp_dir.h"
+
+namespace kz::test {
+namespace {
+
+struct Close {
+  void operator()(CDic* dictionary) const { DicClose(dictionary); }
+};
+using Dictionary = std::unique_ptr<CDic, Close>;
+
+using Random = std::mt19937;
+
+int below(Random& random, int limit) {
+  return static_cast<int>(random() % static_cast<unsigned>(limit));
+}
+
+struct Shape {
+  const char* language;
+  char type;
+  int depth, alphabet_size, version, packing;
+  bool fresh_groups;
+};
+
+std::string random_word(Random& random, const Shape& shape) {
+  // Few different letters make for shared beginnings and full groups.
+  std::string letters = alphabet(shape.alphabet_size);
+  letters = letters.substr(0, 4) + letters.back();
+  std::string word(1, below(random, 12) == 0 ? '7' : letters[random() % letters.size()]);
+  for (int i = below(random, 8); i > 0; --i) {
+    word += below(random, 9) == 0 ? std::string("-' .5")[random() % 5]
+                                  : letters[random() % letters.size()];
+  }
+  return word;
+}
+
+std::string random_body(Random& random, const DictionaryFile& file) {
+  std::string body = "N";
+  if (!file.shared.empty() && below(random, 2) == 0) {
+    char number[16];
+    const auto offset =
+        static_cast<unsigned>(below(random, static_cast<int>(file.shared.size()) + 3));
+    std::snprintf(number, sizeof number, below(random, 2) ? "%x" : "%04X", offset);
+    return body + number;
+  }
+  // Long ones only in plain records, where a block then takes several steps to read.
+  const int length = file.packed()       ? below(random, 60)
+                     : below(random, 20) ? below(random, 60)
+                                         : 2500;
+  for (int i = length; i > 0; --i) body += "xyz;/ "[random() % 6];
+  return body;
+}
+
+DictionaryFile random_dictionary(Random& random, const Shape& shape, int size) {
+  DictionaryFile file;
+  file.language = shape.language;
+  file.type = shape.type;
+  file.depth = shape.depth;
+  file.alphabet_size = shape.alphabet_size;
+  file.version = shape.version;
+  file.packing = shape.packing;
+  file.fresh_groups = shape.fresh_groups;
+  if (shape.packing >= 2 && shape.type != 'S') {
+    file.shared = std::string("shared text\0next one\0last, without its zero", 42);
+  }
+  for (int i = 0; i < size; ++i) {
+    file.records.push_back({random_word(random, shape), random_body(random, file)});
+  }
+  return file;
+}
+
+std::vector<Shape> shapes() {
+  std::vector<Shape> all;
+  for (const auto& [language, size] :
+       {std::pair{"ENRU", 26}, std::pair{"RUEN", 32}, std::pair{"DERU", 43}, std::pair{"FR", 43}}) {
+    for (const int depth : {2, 3, 5}) {
+      if (depth == 5 && size != 32) continue;  // its keys know Russian letters alone
+      all.push_back({language, 'C', depth, size, 256, 0, true});
+      all.push_back({language, 'C', depth, size, 539, 2, true});
+      all.push_back({language, 'G', depth, size, 600, 1, true});
+      all.push_back({language, 'C', depth, size, 600, 3, true});
+      all.push_back({language, 'C', depth, size, 600, 3, false});
+      all.push_back({language, 'S', depth, size, 600, 1, true});
+    }
+  }
+  return all;
+}
+
+std::vector<std::string> words_to_search(Random& random, const DictionaryFile& file,
+                                         const Shape& shape) {
+  std::vector<std::string> words;
+  for (int i = 0; i < 60; ++i) {
+    const std::string& word = file.records[random() % file.records.size()].word;
+    words.push_back(word);
+    words.push_back(word.substr(0, 1 + random() % word.size()));
+    words.push_back(random_word(random, shape));
+  }
+  words.insert(words.end(), {"A", "!", "*", "", words[0] + "*", words[0] + "*N", words[0] + "\n"});
+  return words;
+}
+
+::testing::AssertionResult same_text(const char* found,
+                                     const std::optional<std::string>& expected) {
+  if (found == nullptr && !expected) return ::testing::AssertionSuccess();
+  if (found != nullptr && expected && std::string(expected->c_str()) == found)
+    return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "found " << (found ? found : "nothing") << ", expected "
+                                       << expected.value_or("nothing");
+}
+
+// Asks the same of the library and the slow reader; stops at the first difference.
+bool searches_agree(CDic* dictionary, SlowDictionary& slow, const std::vector<std::string>& words,
+                    const std::string& where) {
+  for (const int mode : {0, 1, 2, -1, 0}) {
+    for (const std::string& word : words) {
+      const auto search_mode = static_cast<std::int16_t>(mode);
+      const char* found = DicFind(dictionary, word.c_str(), search_mode, 2);
+      auto expected = slow.find(word.c_str(), mode);
+      for (int step = 0; step < 4; ++step) {
+        const auto same = same_text(found, expected);
+        EXPECT_TRUE(same) << where << ", word '" << word << "', search mode " << mode << ", step "
+                          << step;
+        if (!same) return false;
+        if (found == nullptr) break;
+        found = DicFindNext(dictionary, 2);
+        expected = slow.next();
+      }
+    }
+  }
+  return true;
+}
+
+std::string name_of(const Shape& shape) {
+  return std::string(shape.language) + ' ' + shape.type + " depth " + std::to_string(shape.depth) +
+         " packing " + std::to_string(shape.packing) + (shape.fresh_groups ? "" : " running");
+}
+
+TEST(Lookup, EveryModeFindsWhatIsInTheFile) {
+  const TempDir dir;
+  Random random(20261122);
+  for (const Shape& shape : shapes()) {
+    for (const int size : {1, 30, 400}) {
+      DictionaryFile file = random_dictionary(random, shape, size);
+      SlowDictionary slow(file.write(dir.file("d.dic")));
+      const std::vector<std::string> words = words_to_search(random, file, shape);
+      for (const auto mode : std::initializer_list<std::int16_t>{0, 2, 4}) {
+        const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), mode));
+        ASSERT_NE(dictionary, nullptr) << name_of(shape) << ": " << kz_dict_dic_errno();
+        LoadAllOffsets(dictionary.get());
+        const std::string where = name_of(shape) + ", mode " + std::to_string(mode);
+        ASSERT_TRUE(searches_agree(dictionary.get(), slow, words, where));
+      }
+    }
+  }
+}
+
+TEST(Lookup, EveryHeadwordIsFoundByExactSearch) {
+  const TempDir dir;
+  Random random(7);
+  for (const Shape& shape : shapes()) {
+    // Word lists have no '*'; front coding that runs on over groups hides words at their starts.
+    if (shape.type == 'S' || !shape.fresh_groups) continue;
+    DictionaryFile file = random_dictionary(random, shape, 300);
+    file.write(dir.file("d.dic"));
+    const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), 0));
+    for (const Record& record : file.records) {
+      const char* found = DicFind(dictionary.get(), record.word.c_str(), 0, 1);
+      ASSERT_NE(found, nullptr) << name_of(shape) << ", word '" << record.word << "'";
+      ASSERT_EQ(std::string(found).substr(0, record.word.size() + 1), record.word + '*');
+    }
+  }
+}
+
+TEST(Lookup, NoWordFindsTheFirstRecordAndTheWalkFindsThemAll) {
+  const TempDir dir;
+  Random random(11);
+  for (const Shape& shape : shapes()) {
+    DictionaryFile file = random_dictionary(random, shape, 5000);
+    SlowDictionary slow(file.write(dir.file("d.dic")));
+    const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), 0));
+    ASSERT_NE(dictionary, nullptr) << name_of(shape) << ": " << kz_dict_dic_errno();
+    const char* found = DicFind(dictionary.get(), nullptr, 0, 2);
+    auto expected = slow.find(nullptr, 0);
+    std::size_t count = 0;
+    for (; found != nullptr; ++count) {
+      ASSERT_TRUE(same_text(found, expected)) << name_of(shape);
+      found = DicFindNext(dictionary.get(), 2);
+      expected = slow.next();
+    }
+    EXPECT_EQ(count, file.records.size()) << name_of(shape);
+    EXPECT_FALSE(expected.has_value());
+    EXPECT_EQ(DicFindNext(dictionary.get(), 2), nullptr);
+  }
+}
+
+TEST(Lookup, DamagedRecordsAndTablesAreReadTheSameWay) {
+  const TempDir dir;
+  Random random(13);
+  for (const Shape& shape : shapes()) {
+    if (shape.depth == 5) continue;  // what a search finds among keys out of order is open
+    for (int round = 0; round < 8; ++round) {
+      DictionaryFile file = random_dictionary(random, shape, 60);
+      std::string bytes = file.bytes();
+      const std::size_t end = bytes.size() - file.shared.size();
+      for (int i = 0; i < 12; ++i) {
+        bytes[154 + random() % (end - 154)] = static_cast<char>(random());
+      }
+      dir.write("d.dic", bytes);
+      SlowDictionary slow(bytes);
+      const std::vector<std::string> words = words_to_search(random, file, shape);
+      for (const auto mode : std::initializer_list<std::int16_t>{0, 4}) {
+        const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), mode));
+        ASSERT_NE(dictionary, nullptr);
+        const std::string where = name_of(shape) + ", damaged, mode " + std::to_string(mode);
+        ASSERT_TRUE(searches_agree(dictionary.get(), slow, words, where));
+      }
+    }
+  }
+}
+
+TEST(Lookup, AnyDamageToHeaderOrLengthIsRefusedOrSurvived) {
+  const TempDir dir;
+  Random random(17);
+  const std::string path = dir.file("d.dic");
+  for (const Shape& shape :
+       {Shape{"RUEN", 'C', 5, 32, 600, 3, true}, Shape{"ENRU", 'C', 2, 26, 600, 2, true}}) {
+    DictionaryFile file = random_dictionary(random, shape, 20);
+    const std::string good = file.bytes();
+    const std::string word = file.records[3].word;
+    const auto try_file = [&](const std::string& bytes) {
+      std::ofstream(path, std::ios::binary) << bytes;
+      const Dictionary dictionary(DicOpen(path.c_str(), 4));
+      if (!dictionary) {
+        EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FORMAT);
+        return;
+      }
+      LoadAllOffsets(dictionary.get());
+      for (const auto mode : std::initializer_list<std::int16_t>{0, 1, 2, -1}) {
+        DicFind(dictionary.get(), word.c_str(), mode, 2);
+        for (int i = 0; i < 30 && DicFindNext(dictionary.get(), 2) != nullptr; ++i) {
+        }
+      }
+    };
+    for (std::size_t i = 0; i < 154; ++i) {
+      for (const int value : {0, 1, 0x7F, 0x80, 0xFF}) {
+        std::string bytes = good;
+        bytes[i] = static_cast<char>(value);
+        try_file(bytes);
+      }
+    }
+    for (std::size_t length = 0; length < good.size(); length += 1 + length / 40) {
+      try_file(good.substr(0, length));
+    }
+  }
+}
+
+TEST(Lookup, OverlappingBlocksTakeNoMoreMemoryThanAFewTimesTheFile) {
+  // Positions that fall from cell to cell: most blocks reach far behind their neighbours.
+  constexpr std::size_t kRecords = 60000;
+  DictionaryFile file;
+  file.language = "DERU";
+  file.alphabet_size = 43;
+  file.depth = 3;
+  std::string bytes = file.bytes().substr(0, 154) + std::string(kRecords, '\n');
+  const auto put = [&bytes](std::size_t at, std::size_t value) {
+    for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> 8 * i);
+  };
+  put(119, bytes.size());
+  constexpr std::size_t kCells = 43 * 44 * 44;
+  bytes.resize(bytes.size() + kCells * 4);
+  for (std::size_t i = 0; i < kCells; ++i) {
+    put(154 + kRecords + 4 * i, 154 + (kCells - i) % kRecords);
+  }
+  const TempDir dir;
+  const std::string path = dir.file("d.dic");
+  std::ofstream(path, std::ios::binary) << bytes;
+  const Dictionary dictionary(DicOpen(path.c_str(), 2));
+  ASSERT_NE(dictionary, nullptr);
+  LoadAllOffsets(dictionary.get());
+
+  // Without the file, searches in the blocks in memory still work.
+  std::filesystem::resize_file(path, 154);
+  std::size_t in_memory = 0;
+  for (const char first : alphabet(43)) {
+    for (const char second : alphabet(43)) {
+      const std::string word = {first, second, 'b'};
+      EXPECT_EQ(DicFind(dictionary.get(), word.c_str(), 0, 2), nullptr);
+      if (kz_dict_dic_errno() != DIC_OK) continue;
+      in_memory += static_cast<std::size_t>(DicSizeX(dictionary.get(), word.c_str()));
+    }
+  }
+  EXPECT_GT(in_memory, 0u);
+  EXPECT_LT(in_memory, 32 * bytes.size());
+}
+
+class SmallDictionary : public ::testing::Test {
+ protected:
+  // Opens a dictionary with these records, and two texts in its shared block.
+  CDic* open(int packing, std::vector<Record> records, std::int16_t mode = 0) {
+    DictionaryFile file;
+    file.packing = packing;
+    file.shared = std::string("first\0second", 13);
+    file.records = std::move(records);
+    file.write(path());
+    dictionary_.reset(DicOpen(path().c_str(), mode));
+    return dictionary_.get();
+  }
+  std::string path() const { return dir_.file("small.dic"); }
+
+  TempDir dir_;
+  Dictionary dictionary_;
+};
+
+TEST_F(SmallDictionary, LevelsDecodeAsFarAsAsked) {
+  CDic* dictionary = open(3, {{"table", "N6\\\\Table"}});
+  EXPECT_STREQ(DicFind(dictionary, "table", 0, 0), "");
+  EXPECT_STREQ(DicGetFound(dictionary, nullptr, 1), "table*N6\\\\Table");
+  EXPECT_STREQ(DicGetFound(dictionary, nullptr, 0), "table*N6\\\\Table");
+  EXPECT_STREQ(DicGetFound(dictionary, nullptr, -1), "table*Nsecond\\\\Table");
+  EXPECT_STREQ(DicFind(dictionary, "table", 0, 1), "table*N6\\\\Table");
+
+  // The end of a walk leaves the record found last.
+  EXPECT_STREQ(DicFind(dictionary, "table", 0, 0), "");
+  EXPECT_EQ(DicFindNext(dictionary, 0), nullptr);
+  EXPECT_STREQ(DicGetFound(dictionary, nullptr, 2), "table*Nsecond\\\\Table");
+  EXPECT_EQ(DicFindNext(dictionary, 0), nullptr);
+
+  dictionary = open(2, {{"table", "N0"}});
+  EXPECT_STREQ(DicFind(dictionary, "table", 0, 0), "table*N0");
+  char copy[DIC_ENTRY_ROOM];
+  EXPECT_STREQ(DicGetFound(dictionary, copy, 2), "table*Nfirst");
+  EXPECT_STREQ(copy, "table*Nfirst");
+}
+
+TEST_F(SmallDictionary, OnlyANumberInsideTheSharedTextIsAReference) {
+  CDic* dictionary = open(2, {{"aa", "N6x"},
+                              {"ab", "N-6"},
+                              {"ac", "N 6"},
+                              {"ad", "N0x6"},
+                              {"ae", "N00000000006"},
+                              {"af", "Nd"},
+                              {"ag", "Nc"},
+                              {"ah", "N00000006"},
+                              {"ai", "N[6]6"},
+                              {"aj", "$6\\7"},
+                              {"ak", "N6\\"}});
+  for (const char* kept : {"aa*N6x", "ab*N-6", "ac*N 6", "ad*N0x6", "ae*N00000000006", "af*Nd"}) {
+    const std::string word(kept, 2);
+    EXPECT_STREQ(DicFind(dictionary, word.c_str(), 0, 2), kept);
+  }
+  EXPECT_STREQ(DicFind(dictionary, "ag", 0, 2), "ag*N");  // its zero alone
+  EXPECT_STREQ(DicFind(dictionary, "ah", 0, 2), "ah*Nsecond");
+  EXPECT_STREQ(DicFind(dictionary, "ai", 0, 2), "ai*N[6]second");
+  EXPECT_STREQ(DicFind(dictionary, "aj", 0, 2), "aj*$second");
+  for (int time = 0; time < 3; ++time) {  // read from the block, then from the table of headwords
+    EXPECT_STREQ(DicFind(dictionary, "ak", 0, 2), "ak*Nsecond");
+  }
+}
+
+TEST_F(SmallDictionary, TheEntryObjectShowsTheFoundEntry) {
+  CDic* dictionary = open(3, {{"table", "N6\\\\Table"}, {"tent", "N0"}});
+  ASSERT_NE(DicFind(dictionary, "table", 0, 2), nullptr);
+  EXPECT_STREQ(DicEntryGetSrcWord(DicGetEntryHandler(dictionary), nullptr), "Table");
+  ASSERT_NE(DicFind(dictionary, "tent", 0, 2), nullptr);
+  EXPECT_STREQ(DicEntryGetInWord(DicGetEntryHandler(dictionary), nullptr), "tent");
+}
+
+TEST_F(SmallDictionary, LongRecordsAreCutToTheEntry) {
+  const std::string body(5000, 'x');
+  CDic* dictionary = open(0, {{"long", body}, {"lost", "N1"}});
+  const char* found = DicFind(dictionary, "long", 0, 2);
+  ASSERT_NE(found, nullptr);
+  EXPECT_EQ(std::string(found), ("long*" + body).substr(0, DIC_ENTRY_ROOM - 1));
+  EXPECT_STREQ(DicFindNext(dictionary, 2), "lost*N1");
+
+  // Packed: 259 characters are a record, 260 end the search.
+  dictionary = open(1, {{"aa", std::string(256, 'x')}, {"ab", std::string(257, 'x')}});
+  EXPECT_NE(DicFind(dictionary, "aa", 0, 2), nullptr);
+  EXPECT_EQ(DicFind(dictionary, "ab", 0, 2), nullptr);
+}
+
+TEST_F(SmallDictionary, WordsThatCannotBeSearchedFindNothing) {
+  const std::string longest(77, 'a');
+  CDic* dictionary = open(0, {{longest, "N"}, {longest + 'a', "N"}});
+  EXPECT_NE(DicFind(dictionary, longest.c_str(), 0, 2), nullptr);
+  EXPECT_EQ(DicFind(dictionary, (longest + 'a').c_str(), 0, 2), nullptr);
+  EXPECT_EQ(DicFind(dictionary, "", 0, 2), nullptr);
+  EXPECT_EQ(DicFindNext(dictionary, 2), nullptr);  // nothing to go on from
+  EXPECT_STREQ(DicGetFound(dictionary, nullptr, 2), "");
+}
+
+TEST_F(SmallDictionary, TheWordMayBeTheEntryFoundLast) {
+  CDic* dictionary = open(0, {{"word", "N1"}});
+  const char* entry = DicFind(dictionary, "word", 0, 2);
+  EXPECT_STREQ(DicFind(dictionary, entry, 1, 2), "word*N1");
+}
+
+TEST_F(SmallDictionary, ErrorsAreLeftInTheErrorVariable) {
+  EXPECT_EQ(DicOpen(dir_.file("none.dic").c_str(), 0), nullptr);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FILE);
+  EXPECT_EQ(kz_dict_errno(), ENOENT);
+  char buffer[DIC_ENTRY_ROOM] = "word";
+  EXPECT_EQ(DicOpenGetEntry(dir_.file("none.dic").c_str(), buffer, 0), DIC_ERR_FILE);
+
+  CDic* dictionary = open(0, {{"word", "N1"}});
+  EXPECT_EQ(DicFind(dictionary, "work", 0, 2), nullptr);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_OK);
+  EXPECT_EQ(DicGetEntry(dictionary, buffer, 0), DIC_OK);
+  EXPECT_STREQ(buffer, "word*N1");
+  std::strcpy(buffer, "work");
+  EXPECT_EQ(DicGetEntry(dictionary, buffer, 0), DIC_ERR_NOT_FOUND);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_NOT_FOUND);
+  EXPECT_EQ(DicGetEntry(nullptr, buffer, 0), DIC_ERR_NOT_FOUND);
+  std::strcpy(buffer, "wo");
+  EXPECT_EQ(DicOpenGetEntry(path().c_str(), buffer, 1), DIC_OK);
+  EXPECT_STREQ(buffer, "word*N1");
+
+  // A file that has become shorter since it was opened.
+  std::filesystem::resize_file(path(), 160);
+  EXPECT_EQ(DicFind(dictionary, nullptr, 0, 2), nullptr);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FILE);
+}
+
+TEST_F(SmallDictionary, SharedTextIsAskedForOnlyByTranslationDictionaries) {
+  DictionaryFile file;
+  file.packing = 2;
+  file.records = {{"word", "N0"}};
+  file.write(path());
+  EXPECT_EQ(DicOpen(path().c_str(), 0), nullptr);
+  EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FORMAT);
+  file.type = 'G';
+  file.write(path());
+  const Dictionary dictionary(DicOpen(path().c_str(), 0));
+  EXPECT_STREQ(DicFind(dictionary.get(), "word", 0, 2), "word*N0");
+}
+
+TEST_F(SmallDictionary, ModeOneReadsFromTheCurrentBlockWithoutTheIndex) {
+  CDic* dictionary = open(0, {{"alpha", "N1"}, {"beta", "N2"}, {"zeta", "N3"}}, 1);
+  EXPECT_EQ(DicGetMode(dictionary), 1);
+  EXPECT_STREQ(DicFind(dictionary, "zeta", 0, 2), "zeta*N3");
+  EXPECT_STREQ(DicFind(dictionary, "alpha", 0, 2), "alpha*N1");
+  EXPECT_STREQ(DicFindNext(dictionary, 2), "beta*N2");
+
+  // A first record behind the end of the records is none.
+  std::fstream(path(), std::ios::in | std::ios::out | std::ios::binary)
+      .seekp(123)
+      .write("\0\0\1", 4);
+  dictionary_.reset(DicOpen(path().c_str(), 1));
+  ASSERT_NE(dictionary_, nullptr);
+  EXPECT_EQ(DicFind(dictionary_.get(), "alpha", 0, 2), nullptr);
+  EXPECT_EQ(DicFind(dictionary_.get(), nullptr, 0, 2), nullptr);
+}
+
+TEST_F(SmallDictionary, AccessorsAnswerForMissingHandles) {
+  CDic* dictionary = open(0, {{"word", "N1"}}, 4);
+  DicSetId(dictionary, 200);
+  EXPECT_EQ(DicGetId(dictionary), 200);
+  EXPECT_EQ(DicGetMode(dictionary), 4);
+  EXPECT_EQ(DicGetPath(dictionary), path());
+  EXPECT_EQ(DicGetId(nullptr), -1);
+  EXPECT_EQ(DicGetMode(nullptr), 0);
+  EXPECT_EQ(DicGetPath(nullptr), nullptr);
+  EXPECT_EQ(DicGetEntryHandler(nullptr), nullptr);
+  EXPECT_EQ(DicFind(nullptr, "word", 0, 2), nullptr);
+  EXPECT_EQ(DicFindNext(nullptr, 2), nullptr);
+  EXPECT_EQ(DicGetFound(nullptr, nullptr, 2), nullptr);
+  DicClose(nullptr);
+  LoadAllOffsets(nullptr);
+
+  EXPECT_EQ(DicOffsetX(dictionary, "word"), 154);
+  EXPECT_EQ(DicSizeX(dictionary, "word"), 10);
+  EXPECT_EQ(DicSizeX(dictionary, "Word"), -1);
+  EXPECT_EQ(DicLetterOffsetX(dictionary, 'w'), -1);
+  EXPECT_EQ(DicLetterNumberX(dictionary, 0), 0);
+}
+
+TEST(DictionaryGroups, PrintTheirPlaces) {
+  const TempDir directory;
+  DictionaryFile file;
+  file.records = {{"ad", "Nx"}, {"ah", "Ny"}, {"b", "Nz"}};
+  const std::string path = directory.file("groups.dic");
+  file.write(path);
+  const Dictionary dictionary(DicOpen(path.c_str(), 0));
+  ASSERT_NE(dictionary, nullptr);
+  ZCFile list;
+  ASSERT_TRUE(list.Open(directory.file("groups.txt").c_str(), 0x1002));
+  PrintAllOffsets(dictionary.get(), &list);
+  list.Close();
+  // Six bytes each behind the header of 154; two line feeds end the records. A letter's head leads
+  // to its first group.
+  EXPECT_EQ(directory.read("groups.txt"),
+            "*154     'a  ' 6      \n"
+            "*154     'ad ' 6      \n"
+            "*160     'ah ' 6      \n"
+            "*166     'b  ' 7      \n");
+  PrintAllOffsets(nullptr, nullptr);
+  PrintAllOffsets(dictionary.get(), nullptr);
+}
+
+}  // namespace
+}  // namespace kz::test
