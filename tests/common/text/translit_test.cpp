@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <random>
@@ -14,9 +13,10 @@
 #include "kz/charclass.h"
 #include "kz/compare.h"
 #include "kz/special.h"
-#include "tests/support/utf8.h"
 #include "tests/common/text/reference.h"
 #include "tests/common/text/text_at_page_end.h"
+#include "tests/support/source_tree.h"
+#include "tests/support/utf8.h"
 #include "text/literal.h"
 
 namespace {
@@ -321,8 +321,7 @@ TEST(SmartTranslit, FollowsItsRulesInRandomTexts) {
 }
 
 TEST(SmartTranslit, GivesTheExamplesOfItsPage) {
-  const auto root = std::filesystem::path(__FILE__).parent_path() / "../../..";
-  std::ifstream page(root / "docs/conversions.md");
+  std::ifstream page(kz::test::source_tree() / "docs/conversions.md");
   std::string line;
   while (std::getline(page, line) && line != "```smart") continue;
   int examples = 0;
