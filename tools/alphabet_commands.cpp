@@ -8,8 +8,8 @@
 
 #include "kz/special.h"
 #include "kz/translit.h"
+#include "lexicon/text/russian_text.h"
 #include "tools/character_filter.h"
-#include "tools/russian_text.h"
 #include "tools/status.h"
 
 namespace kzdic {

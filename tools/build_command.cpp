@@ -8,15 +8,15 @@
 #include <optional>
 #include <set>
 
-#include "tools/delivery.h"
-#include "tools/dictionary_writer.h"
-#include "tools/entry_layout.h"
-#include "tools/entry_reader.h"
+#include "lexicon/build/dictionary_writer.h"
+#include "lexicon/build/shared_text.h"
+#include "lexicon/build/sort_order.h"
+#include "lexicon/build/verify.h"
+#include "lexicon/file/delivery.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/source/entry_reader.h"
 #include "tools/refusals.h"
-#include "tools/shared_text.h"
-#include "tools/sort_order.h"
 #include "tools/status.h"
-#include "tools/verify.h"
 
 namespace kzdic {
 namespace {
@@ -90,8 +90,8 @@ std::vector<Record> read_records(const SourceText& source, const EntryReader& re
     try {
       records.push_back(reader.read(source.lines[i].text));
       records.back().line = i;
-    } catch (const Failure& failure) {
-      refusals.add(failure.status(), source.place(source.lines[i], failure.what()));
+    } catch (const Error& error) {
+      refusals.add(status_of(error), source.place(source.lines[i], error.what()));
     }
   }
   return records;
@@ -184,7 +184,7 @@ std::size_t count_headwords(const std::vector<Record>& records) {
 }  // namespace
 
 void build(const BuildOptions& options) {
-  const SourceText source = read_source(options.sources);
+  const SourceText source = read_source(options.sources, Marked::kDirective, &std::cin);
   const Properties properties = settle_properties(options, source.properties);
   const std::string& language = properties.language;
   const bool word_list = properties.type == "S";

@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "tools/source_text.h"
+#include "lexicon/source/source_text.h"
+#include "tools/status.h"
 
 namespace kzdic {
 

@@ -1,7 +1,8 @@
 // A table of what becomes of each byte.
 #include "tools/character_filter.h"
 
-#include "tools/code_page_tables.h"
+#include "lexicon/text/code_page_tables.h"
+#include "tools/status.h"
 
 namespace kzdic {
 

@@ -7,8 +7,9 @@
 #include <optional>
 #include <string>
 
-#include "tools/code_page.h"
+#include "lexicon/text/code_page.h"
 #include "tools/line_filter.h"
+#include "tools/status.h"
 
 namespace kzdic {
 

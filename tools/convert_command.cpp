@@ -7,9 +7,10 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 
-#include "tools/code_page_tables.h"
-#include "tools/narrow_conversion.h"
-#include "tools/text_encoding.h"
+#include "lexicon/text/code_page_tables.h"
+#include "lexicon/text/narrow_conversion.h"
+#include "lexicon/text/text_encoding.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {

@@ -8,11 +8,11 @@
 #include "kz/dic_index.h"
 #include "kz/dic_iterator.h"
 #include "kz/special.h"
-#include "tools/code_page.h"
-#include "tools/entry_layout.h"
-#include "tools/file_header.h"
-#include "tools/open_dictionary.h"
-#include "tools/source_writer.h"
+#include "lexicon/search/file_header.h"
+#include "lexicon/search/open_dictionary.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/source/source_writer.h"
+#include "lexicon/text/code_page.h"
 #include "tools/status.h"
 
 namespace kzdic {

@@ -5,10 +5,12 @@
 #include <nlohmann/json.hpp>
 #include <string_view>
 
-#include "tools/code_page.h"
-#include "tools/entry_grammar.h"
-#include "tools/entry_layout.h"
-#include "tools/entry_view.h"
+#include "lexicon/entry/entry_grammar.h"
+#include "lexicon/entry/entry_view.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/text/code_page.h"
+#include "tools/grammar_output.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {

@@ -7,7 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "tools/search.h"
+#include "lexicon/search/search.h"
+#include "tools/status.h"
 
 namespace kzdic {
 

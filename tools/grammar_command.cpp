@@ -5,8 +5,10 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "tools/grammar_decode.h"
+#include "lexicon/grammar/grammar_decode.h"
 #include "tools/grammar_lines.h"
+#include "tools/grammar_output.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {

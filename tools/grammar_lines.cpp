@@ -28,12 +28,12 @@ Status answer_lines(bool json, const std::function<Status(const std::string&)>& 
     Status one = Status::kOk;
     try {
       one = answer(line);
-    } catch (const Failure& failure) {
-      one = failure.status();
+    } catch (const Error& error) {
+      one = status_of(error);
       if (json) {
-        print_json({{"query", line}, {"error", failure.what()}});
+        print_json({{"query", line}, {"error", error.what()}});
       } else {
-        std::cout << line << ": " << failure.what() << '\n';
+        std::cout << line << ": " << error.what() << '\n';
       }
     }
     if (!json) std::cout << '\n';

@@ -7,10 +7,12 @@
 
 #include "kz/gram_attr.h"
 #include "kz/gram_codec.h"
-#include "tools/code_page.h"
+#include "lexicon/grammar/grammar_decode.h"
+#include "lexicon/text/code_page.h"
 #include "tools/grammar_command.h"
-#include "tools/grammar_decode.h"
 #include "tools/grammar_lines.h"
+#include "tools/grammar_output.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {

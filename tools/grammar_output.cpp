@@ -3,8 +3,9 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "tools/entry_view.h"
-#include "tools/grammar_decode.h"
+#include "lexicon/entry/entry_view.h"
+#include "tools/grammar_output.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {
@@ -61,20 +62,6 @@ void print_decoded(const Decoded& decoded, std::ostream& out) {
   if (!decoded.unread.empty()) print_line("not read", decoded.unread, out);
 }
 
-std::string summary(const std::vector<Field>& fields) {
-  std::string text;
-  const std::string* before = nullptr;
-  for (const Field& field : fields) {
-    text += text.empty() ? "" : ", ";
-    // Words speak for themselves; the name of other values is said once.
-    const bool plain = field.kind == Field::Kind::kWord && !field.name.ends_with("-case");
-    if (!plain && (before == nullptr || *before != field.name)) text += field.name + " ";
-    text += field.value;
-    before = &field.name;
-  }
-  return text;
-}
-
 nlohmann::ordered_json fields_json(const std::vector<Field>& fields) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const Field& field : fields) {
@@ -101,6 +88,20 @@ nlohmann::ordered_json decoded_json(const Decoded& decoded) {
           {"unread", decoded.unread},
           {"words", words},
           {"semantics", hex(decoded.grammar.semantics.word)}};
+}
+
+nlohmann::ordered_json grammar_json(const std::vector<WordGrammar>& words) {
+  nlohmann::ordered_json object = nlohmann::ordered_json::object();
+  for (const WordGrammar& word : words) {
+    nlohmann::ordered_json decoded = decoded_json(word.grammar);
+    if (word.side == WordGrammar::Side::kSynonym) {
+      decoded["synonym"] = word.synonym;
+      object["synonyms"].push_back(decoded);
+    } else {
+      object[word.side == WordGrammar::Side::kSource ? "source" : "target"] = decoded;
+    }
+  }
+  return object;
 }
 
 }  // namespace kzdic

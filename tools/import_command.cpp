@@ -10,12 +10,12 @@
 #include <iostream>
 #include <optional>
 
-#include "tools/article.h"
-#include "tools/code_page.h"
-#include "tools/delivery.h"
-#include "tools/dictd.h"
-#include "tools/entry_layout.h"
-#include "tools/sort_order.h"
+#include "lexicon/build/sort_order.h"
+#include "lexicon/file/delivery.h"
+#include "lexicon/import/article.h"
+#include "lexicon/import/dictd.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/text/code_page.h"
 #include "tools/status.h"
 
 namespace kzdic {

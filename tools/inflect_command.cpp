@@ -12,11 +12,12 @@
 #include "kz/gram_attr.h"
 #include "kz/gram_codec.h"
 #include "kz/gram_record.h"
-#include "tools/code_page.h"
-#include "tools/entry_layout.h"
-#include "tools/grammar_fields.h"
-#include "tools/inflect_table.h"
+#include "lexicon/grammar/grammar_fields.h"
+#include "lexicon/search/inflect_table.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/text/code_page.h"
 #include "tools/input_lines.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {
@@ -177,7 +178,7 @@ Status inflect(const InflectOptions& options) {
   if (options.source.empty() && options.words.empty()) {
     throw Failure(Status::kUsage, "no word is given");
   }
-  if (!options.source.empty()) build_table(options.source, options.table);
+  if (!options.source.empty()) build_table(options.source, options.table, &std::cin);
   Inflection session(options);
   for_each_word(options.words,
                 [&session](const std::string& word, bool line) { session.answer(word, line); });

@@ -9,11 +9,11 @@
 #include <string_view>
 
 #include "kz/dictionary.h"
-#include "tools/code_page.h"
-#include "tools/entry_layout.h"
-#include "tools/file_header.h"
-#include "tools/open_dictionary.h"
-#include "tools/shared_text.h"
+#include "lexicon/build/shared_text.h"
+#include "lexicon/search/file_header.h"
+#include "lexicon/search/open_dictionary.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/text/code_page.h"
 #include "tools/status.h"
 
 namespace kzdic {

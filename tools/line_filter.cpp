@@ -11,7 +11,7 @@
 #include <new>
 #include <nlohmann/json.hpp>
 
-#include "tools/code_page.h"
+#include "lexicon/text/code_page.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -124,7 +124,7 @@ class Run {
         throw Failure(Status::kDamaged,
                       at_line(line.file, line.line,
                               "byte " + std::to_string(bad.offset + 1) + ' ' + bad.what()));
-      } catch (const Failure&) {
+      } catch (const Error&) {
         out_.resize(answered);
         write();
         throw;

@@ -8,10 +8,11 @@
 #include <memory>
 #include <optional>
 
+#include "lexicon/search/inflect_table.h"
+#include "lexicon/search/search.h"
 #include "tools/entry_printer.h"
-#include "tools/inflect_table.h"
 #include "tools/input_lines.h"
-#include "tools/search.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {
@@ -34,6 +35,9 @@ class Lookup {
     if (!options.inflected.empty()) table_ = load_table(options.inflected);
     if (options.set.directory.empty()) return;
     set_.emplace(options.set);
+    for (const std::string& path : set_->missing()) {
+      std::cerr << "kzdic: " << path << ": cannot be loaded, left out\n";
+    }
     for (CDic* const dictionary : set_->dictionaries()) {
       searchers_.push_back(std::make_unique<Searcher>(dictionary));
     }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tools/dictionary_set.h"
+#include "lexicon/search/dictionary_set.h"
 #include "tools/status.h"
 
 namespace kzdic {

@@ -8,9 +8,9 @@
 int main(int argc, char** argv) {
   try {
     return kzdic::run_command_line(argc, argv, "kzdic " KZ_VERSION);
-  } catch (const kzdic::Failure& failure) {
-    std::cerr << "kzdic: " << failure.what() << '\n';
-    return static_cast<int>(failure.status());
+  } catch (const kz::lexicon::Error& error) {
+    std::cerr << "kzdic: " << error.what() << '\n';
+    return static_cast<int>(kzdic::status_of(error));
   } catch (const std::bad_alloc&) {
     std::cerr << "kzdic: not enough memory\n";
     return static_cast<int>(kzdic::Status::kFile);

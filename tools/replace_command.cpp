@@ -9,7 +9,7 @@
 
 #include "kz/dic_error.h"
 #include "kz/replace_buffer.h"
-#include "tools/russian_text.h"
+#include "lexicon/text/russian_text.h"
 #include "tools/status.h"
 
 namespace kzdic {

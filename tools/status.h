@@ -2,8 +2,9 @@
 #ifndef KZ_TOOLS_STATUS_H
 #define KZ_TOOLS_STATUS_H
 
-#include <stdexcept>
 #include <string>
+
+#include "kzlexicon/error.h"
 
 namespace kzdic {
 
@@ -16,15 +17,15 @@ enum class Status {
   kCodePage = 5,  // a character that the code page lacks
 };
 
-// Ends the command. The message names the file, and the line or offset where there is one.
-class Failure : public std::runtime_error {
- public:
-  Failure(Status status, const std::string& message)
-      : std::runtime_error(message), status_(status) {}
-  Status status() const { return status_; }
+// The tool speaks the names of the library that it is a face of.
+using namespace kz::lexicon;
 
- private:
-  Status status_;
+inline Status status_of(const Error& error) { return static_cast<Status>(error.code()); }
+
+// Ends the command, as errors of the library do.
+struct Failure : Error {
+  Failure(Status status, const std::string& message)
+      : Error(static_cast<ErrorCode>(status), message) {}
 };
 
 // "file:line: message"

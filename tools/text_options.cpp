@@ -3,11 +3,12 @@
 
 #include <iostream>
 
+#include "lexicon/text/text_encoding.h"
 #include "tools/alphabet_commands.h"
 #include "tools/command_line.h"
 #include "tools/convert_command.h"
 #include "tools/replace_command.h"
-#include "tools/text_encoding.h"
+#include "tools/status.h"
 
 namespace kzdic {
 namespace {

@@ -9,10 +9,11 @@
 #include <sstream>
 #include <tuple>
 
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/text/code_page.h"
 #include "tests/tools/dictionary_reader.h"
 #include "tests/tools/kzdic_run.h"
-#include "tools/code_page.h"
-#include "tools/entry_layout.h"
+#include "tools/status.h"
 
 namespace {
 

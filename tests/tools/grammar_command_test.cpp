@@ -8,9 +8,9 @@
 #include <random>
 #include <sstream>
 
+#include "lexicon/grammar/grammar_decode.h"
+#include "lexicon/text/code_page.h"
 #include "tests/tools/kzdic_run.h"
-#include "tools/code_page.h"
-#include "tools/grammar_decode.h"
 #include "tools/status.h"
 
 namespace {
@@ -97,9 +97,9 @@ TEST(GrammarFields, AreRefusedWhenNoTagStringSaysThem) {
   const auto refusal = [](const char* code, const std::vector<std::string>& fields) -> std::string {
     try {
       return "written as " + kzdic::encode_fields(code, fields);
-    } catch (const kzdic::Failure& failure) {
-      EXPECT_EQ(failure.status(), kzdic::Status::kUsage);
-      return failure.what();
+    } catch (const kzdic::Error& error) {
+      EXPECT_EQ(error.code(), kz::lexicon::ErrorCode::kArgument);
+      return error.what();
     }
   };
   EXPECT_THAT(refusal("N", {"masculine", "past"}), HasSubstr("no tag for tense=past"));

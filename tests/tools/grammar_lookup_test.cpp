@@ -3,8 +3,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "lexicon/entry/entry_blocks.h"
 #include "tests/tools/kzdic_run.h"
-#include "tools/entry_blocks.h"
+#include "tools/status.h"
 
 namespace {
 

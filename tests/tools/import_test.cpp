@@ -5,13 +5,14 @@
 
 #include <random>
 
+#include "lexicon/entry/entry_view.h"
+#include "lexicon/import/article.h"
+#include "lexicon/import/dictd.h"
+#include "lexicon/source/body_writer.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/text/code_page.h"
 #include "tests/tools/kzdic_run.h"
-#include "tools/article.h"
-#include "tools/body_writer.h"
-#include "tools/code_page.h"
-#include "tools/dictd.h"
-#include "tools/entry_layout.h"
-#include "tools/entry_view.h"
+#include "tools/status.h"
 
 namespace {
 

@@ -9,10 +9,11 @@
 #include <set>
 #include <sstream>
 
+#include "lexicon/search/headword_forms.h"
+#include "lexicon/search/inflect_table.h"
+#include "lexicon/text/code_page.h"
 #include "tests/tools/kzdic_run.h"
-#include "tools/code_page.h"
-#include "tools/headword_forms.h"
-#include "tools/inflect_table.h"
+#include "tools/status.h"
 
 namespace {
 

@@ -5,10 +5,11 @@
 #include <algorithm>
 #include <random>
 
-#include "tools/code_page.h"
-#include "tools/entry_layout.h"
-#include "tools/shared_text.h"
-#include "tools/sort_order.h"
+#include "lexicon/build/shared_text.h"
+#include "lexicon/build/sort_order.h"
+#include "lexicon/source/entry_layout.h"
+#include "lexicon/text/code_page.h"
+#include "tools/status.h"
 
 namespace {
 

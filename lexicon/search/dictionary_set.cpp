@@ -1,0 +1,109 @@
+// Set of a direction: base dictionaries, or those of a parameter string.
+#include "lexicon/search/dictionary_set.h"
+
+#include <algorithm>
+#include <sstream>
+#include <string_view>
+#include <utility>
+
+#include "kz/dic_array.h"
+#include "kz/dictionary.h"
+#include "kzlexicon/error.h"
+#include "lexicon/source/entry_layout.h"
+
+namespace kz::lexicon {
+namespace {
+
+constexpr std::int16_t kAllDictionaries = 0;
+constexpr std::string_view kHeader = "-C";
+
+std::string direction_of(std::string text) {
+  for (char& c : text) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+  if (text.size() == 4 && is_language(text)) return text;
+  throw Error(ErrorCode::kArgument,
+              "no such direction: " + text + " (ENRU, RUEN, DERU, RUDE, FRRU, RUFR)");
+}
+
+struct PathList {
+  std::string direction;
+  std::string paths;
+};
+
+// "-CENRU path:mode;path:mode -CRUEN ...", on one line or several; paths before the first header
+// are those of the working direction.
+std::vector<PathList> parse_config(const std::string& config, const std::string& direction) {
+  std::vector<PathList> lists;
+  std::istringstream in(config);
+  for (std::string word; in >> word;) {
+    if (word.starts_with(kHeader)) {
+      lists.push_back({direction_of(word.substr(kHeader.size())), {}});
+      continue;
+    }
+    if (lists.empty()) lists.push_back({direction_of(direction), {}});
+    lists.back().paths += word + ';';
+  }
+  if (lists.empty()) throw Error(ErrorCode::kArgument, "the configuration names no dictionaries");
+  return lists;
+}
+
+std::string file_name(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
+
+bool is_loaded(const std::vector<CDic*>& dictionaries, const std::string& path) {
+  return std::any_of(dictionaries.begin(), dictionaries.end(), [&](CDic* dictionary) {
+    return file_name(DicGetPath(dictionary)) == file_name(path);
+  });
+}
+
+std::vector<std::string> missing_of(const ZCObArray& array,
+                                    const std::vector<CDic*>& dictionaries) {
+  std::vector<std::string> missing;
+  for (int i = 0; i < array.GetSize(); ++i) {
+    const auto* const descriptor = static_cast<const CDicArray*>(array[i]);
+    if (descriptor == nullptr) continue;
+    const std::string path(descriptor->path);
+    if (!is_loaded(dictionaries, path)) missing.push_back(path);
+  }
+  return missing;
+}
+
+}  // namespace
+
+DictionarySet::DictionarySet(const SetOptions& options) {
+  std::vector<PathList> lists;
+  if (!options.config.empty()) lists = parse_config(options.config, options.direction);
+  if (options.direction.empty() && lists.empty()) {
+    throw Error(ErrorCode::kArgument, "no direction: use --direction ENRU");
+  }
+  const std::string direction =
+      options.direction.empty() ? lists[0].direction : direction_of(options.direction);
+
+  // The directory is a prefix of file names.
+  std::string directory = options.directory;
+  if (!directory.ends_with('/')) directory += '/';
+  set_.reset(DicSysOpen(0, direction.c_str(), directory.c_str()));
+  if (!set_) throw Error(ErrorCode::kFile, "not enough memory for the set");
+  if (lists.empty()) {
+    DicSysLoadCommon(set_.get());
+  } else {
+    for (const PathList& list : lists) {
+      DicArrayAddPath(set_.get(), -1, list.direction.c_str(), list.paths.c_str());
+    }
+    DicArrayLoad(set_.get(), DicArraySelect(set_.get(), nullptr), 0);
+  }
+  const std::vector<CDic*> loaded = dictionaries();
+  missing_ = missing_of(*DicArraySelect(set_.get(), nullptr), loaded);
+  if (loaded.empty()) {
+    throw Error(ErrorCode::kFile, directory + ": no dictionary of " + direction + " can be loaded");
+  }
+}
+
+std::vector<CDic*> DictionarySet::dictionaries() const {
+  std::vector<CDic*> all;
+  CDic* dictionary = DicQueFirst(set_.get(), kAllDictionaries, 0);
+  for (; dictionary != nullptr; dictionary = DicQueNext(set_.get(), kAllDictionaries)) {
+    all.push_back(dictionary);
+  }
+  return all;
+}
+
+}  // namespace kz::lexicon

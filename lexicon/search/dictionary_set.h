@@ -1,0 +1,39 @@
+// The dictionaries of a direction, opened together as a translation engine does.
+#ifndef KZ_LEXICON_DICTIONARY_SET_H
+#define KZ_LEXICON_DICTIONARY_SET_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "kz/dic_set.h"
+
+namespace kz::lexicon {
+
+struct SetOptions {
+  std::string directory;  // empty: no set is asked for
+  std::string direction;
+  std::string config;  // a parameter string; empty for the base dictionaries
+};
+
+class DictionarySet {
+ public:
+  // Opens the set. Throws Error when no dictionary can be loaded.
+  explicit DictionarySet(const SetOptions& options);
+
+  // In the order of a search; they live as long as the set.
+  std::vector<CDic*> dictionaries() const;
+  // Paths of those that cannot be loaded.
+  const std::vector<std::string>& missing() const { return missing_; }
+
+ private:
+  struct Close {
+    void operator()(CDicSys* set) const { DicSysClose(set); }
+  };
+  std::unique_ptr<CDicSys, Close> set_;
+  std::vector<std::string> missing_;
+};
+
+}  // namespace kz::lexicon
+
+#endif  // KZ_LEXICON_DICTIONARY_SET_H

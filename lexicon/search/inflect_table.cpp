@@ -1,0 +1,170 @@
+// Inflection tables: written, loaded, and asked for all endings of a word.
+#include "lexicon/search/inflect_table.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "kz/charclass.h"
+#include "kz/gram_codec.h"
+#include "kzlexicon/error.h"
+#include "lexicon/file/delivery.h"
+#include "lexicon/source/source_text.h"
+#include "lexicon/text/code_page.h"
+
+namespace kz::lexicon {
+namespace {
+
+constexpr std::string_view kCompiledExtension = ".Dat";
+constexpr std::size_t kLongestEnding = 79;
+constexpr int kRecords = 4;
+constexpr std::int16_t kKinds = 3;
+
+// The text of a table, beside it.
+std::string text_path(const std::string& path) {
+  if (!path.ends_with(kCompiledExtension)) {
+    throw Error(ErrorCode::kArgument, path + ": the name of an inflection table ends in .Dat");
+  }
+  return path.substr(0, path.size() - kCompiledExtension.size()) + ".txt";
+}
+
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+bool is_latin(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// A number of 16 bits, perhaps with one character behind it.
+bool is_paradigm(std::string_view word) {
+  std::uint16_t number = 0;
+  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+  return error == std::errc() &&
+         from_utf8(word.substr(static_cast<std::size_t>(end - word.data()))).size() <= 1;
+}
+
+// What is wrong with the attributes of a line, empty if nothing is.
+std::string fault_of(const std::vector<std::string>& attributes) {
+  if (attributes.empty()) return "an ending without attributes";
+  if (attributes.back() == "|") return "a record without attributes";
+  int records = 1;
+  std::int16_t kind = 0;
+  const std::string* before = nullptr;
+  for (const std::string& word : attributes) {
+    const bool bar = word == "|";
+    if (bar && (before == nullptr || *before == "|")) return "a record without attributes";
+    before = &word;
+    if (bar) {
+      if (++records > kRecords) return "more than four records";
+      kind = 0;
+    } else if (is_digit(word[0])) {
+      if (!is_paradigm(word)) return "'" + word + "' is no paradigm";
+      kind = kKinds - 1;
+    } else if (!is_latin(word[0])) {
+      return "'" + word + "' is no attribute";
+    } else if (kind >= kKinds) {
+      return "'" + word + "' is one name too many";
+    } else if (GetAttrNameIndex(kind++, word.c_str()) < 0) {
+      return "'" + word + "' is no name of kind " + std::to_string(kind - 1);
+    }
+  }
+  return {};
+}
+
+// Windows-1251 lines of a text in UTF-8, all of which the library understands.
+std::string encode_text(const std::string& path, std::istream* standard_input) {
+  const SourceText source = read_source({path}, Marked::kComment, standard_input);
+  std::map<std::string, std::size_t> seen;
+  std::string bytes;
+  for (const SourceLine& line : source.lines) {
+    const auto fail = [&](ErrorCode code, const std::string& fault) {
+      throw Error(code, fault, {source.files[line.file], line.line});
+    };
+    try {
+      const std::string encoded = encode(from_utf8(line.text), CodePage::kRussian);
+      if (isansialpha(encoded[0]) == 0 && isruansialpha(encoded[0]) == 0) {
+        fail(ErrorCode::kData, "an ending begins with a letter; comments begin with *");
+      }
+      bytes += encoded + '\n';
+    } catch (const Unmappable& error) {
+      fail(ErrorCode::kCodePage, error.what());
+    } catch (const BadUtf8& error) {
+      fail(ErrorCode::kData, error.what());
+    }
+    std::istringstream words(line.text);
+    std::string ending;
+    words >> ending;
+    std::vector<std::string> attributes;
+    for (std::string word; words >> word;) attributes.push_back(word);
+    if (from_utf8(ending).size() > kLongestEnding) fail(ErrorCode::kData, "too long an ending");
+    if (const std::string fault = fault_of(attributes); !fault.empty()) {
+      fail(ErrorCode::kData, fault);
+    }
+    const auto [first, is_new] = seen.emplace(ending, line.line);
+    if (!is_new) {
+      fail(ErrorCode::kData, "the ending stands in line " + std::to_string(first->second) + " too");
+    }
+  }
+  return bytes;
+}
+
+}  // namespace
+
+void build_table(const std::string& source, const std::string& path, std::istream* standard_input) {
+  const std::string text = text_path(path);
+  std::error_code ignored;
+  if (std::filesystem::equivalent(source, text, ignored)) {
+    throw Error(ErrorCode::kArgument,
+                text + ": the text would replace itself in another code page");
+  }
+  const std::string bytes = encode_text(source, standard_input);
+  Delivery delivery(text);
+  std::ofstream out(delivery.path(), std::ios::binary);
+  out << bytes;
+  out.close();
+  if (!out) throw Error(ErrorCode::kFile, text + ": cannot write");
+  std::filesystem::remove(path, ignored);
+  delivery.deliver();
+  load_table(path);  // writes it
+  if (!std::filesystem::exists(path)) throw Error(ErrorCode::kFile, path + ": cannot write");
+}
+
+std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path) {
+  const std::string text = text_path(path);
+  auto table = std::make_unique<CGrSrcWordFlex>();
+  if (table->Load(path.c_str(), "", 1) != 0) {
+    if (std::filesystem::exists(path)) {
+      throw Error(ErrorCode::kData, path + ": not an inflection table, or a damaged one");
+    }
+    throw Error(ErrorCode::kFile, path + ": cannot open, nor " + text);
+  }
+  return table;
+}
+
+std::string fold_yo(std::string word) {
+  const std::string letters = encode(U"ёе", CodePage::kRussian);
+  std::replace(word.begin(), word.end(), letters[0], letters[1]);
+  return word;
+}
+
+std::vector<const CGrSrcWordObj*> known_endings(CGrSrcWordFlex& table, const std::string& word) {
+  const std::array<std::string, 2> spellings = {word, fold_yo(word)};
+  std::vector<const CGrSrcWordObj*> entries;
+  for (std::size_t from = 0; from < word.size();) {
+    const CGrSrcWordObj* longest = nullptr;
+    std::size_t length = 0;
+    for (const std::string& spelling : spellings) {
+      const CGrSrcWordObj* entry = table.Find(spelling.c_str() + from, 0);
+      if (entry == nullptr || std::strlen(entry->ending) <= length) continue;
+      longest = entry;
+      length = std::strlen(entry->ending);
+    }
+    if (longest == nullptr) break;
+    entries.push_back(longest);
+    from = word.size() - length + 1;
+  }
+  return entries;
+}
+
+}  // namespace kz::lexicon

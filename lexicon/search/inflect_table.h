@@ -1,0 +1,32 @@
+// Inflection tables of the tool: making one from a UTF-8 text, loading it, endings of a word.
+#ifndef KZ_LEXICON_INFLECT_TABLE_H
+#define KZ_LEXICON_INFLECT_TABLE_H
+
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "kz/inflection.h"
+
+namespace kz::lexicon {
+
+// Writes the table `path`, whose name ends in ".Dat", and the Windows-1251 text beside it from a
+// text in UTF-8. A line that the library would pass over or not understand is an error. Throws
+// Error.
+void build_table(const std::string& source, const std::string& path,
+                 std::istream* standard_input = nullptr);
+
+// Throws Error.
+std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path);
+
+// Windows-1251 with the letter yo written as ye.
+std::string fold_yo(std::string word);
+
+// The entries of the known endings of a word in lower case, Windows-1251, longest first. An ending
+// matches with yo as it stands or written as ye.
+std::vector<const CGrSrcWordObj*> known_endings(CGrSrcWordFlex& table, const std::string& word);
+
+}  // namespace kz::lexicon
+
+#endif  // KZ_LEXICON_INFLECT_TABLE_H

@@ -1,0 +1,24 @@
+// Opening of dictionaries, with a reason when it fails.
+#include "lexicon/search/open_dictionary.h"
+
+#include <cstring>
+
+#include "kz/dic_error.h"
+#include "kzlexicon/error.h"
+
+namespace kz::lexicon {
+
+Dictionary open_dictionary(const std::string& path, std::int16_t mode) {
+  Dictionary dictionary(DicOpen(path.c_str(), mode));
+  if (dictionary) return dictionary;
+  const std::uint16_t code = kz_dict_dic_errno();
+  const int reason = kz_dict_errno();
+  if (code == DIC_ERR_FORMAT) {
+    throw Error(ErrorCode::kData, path + ": offset 0: not a dictionary, or a damaged one");
+  }
+  if (code == DIC_ERR_MEMORY) throw Error(ErrorCode::kFile, path + ": not enough memory");
+  throw Error(ErrorCode::kFile, path + ": cannot open: " +
+                                    (reason != 0 ? std::strerror(reason) : "not a regular file"));
+}
+
+}  // namespace kz::lexicon
