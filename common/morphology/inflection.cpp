@@ -16,10 +16,10 @@
 #include "morphology/inflection_file.h"
 #include "morphology/inflection_index.h"
 #include "morphology/inflection_text.h"
+#include "platform/replace.h"
 #include "text/literal.h"
 #include "util/lexer.h"
 #include "util/list_file.h"
-#include "util/whole_file.h"
 
 using kz::operator""_1251;
 
@@ -115,7 +115,7 @@ struct InflectionCore {
       entry.length = static_cast<std::uint8_t>(std::strlen(entry.ending));
       append_entry(file, entry);
     }
-    write_whole_file(path, file);
+    platform::write_whole_file(path, file);
   }
 
   static std::string text_path(std::string_view path) {

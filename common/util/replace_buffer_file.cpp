@@ -4,7 +4,7 @@
 #include "kz/dic_error.h"
 #include "kz/file.h"
 #include "kz/replace_buffer.h"
-#include "util/whole_file.h"
+#include "platform/replace.h"
 
 namespace {
 constexpr unsigned kReadDenyingWrite = 0x8020;
@@ -25,7 +25,7 @@ std::int16_t LoadBuffer(const char* path, char* destination) {
 
 std::int16_t SaveBuffer(const char* path, const char* text) {
   if (path == nullptr || text == nullptr) return DIC_ERR_MEMORY;
-  return kz::write_whole_file(path, text) ? DIC_OK : DIC_ERR_FILE;
+  return kz::platform::write_whole_file(path, text) ? DIC_OK : DIC_ERR_FILE;
 }
 
 }  // extern "C"

@@ -24,7 +24,7 @@ ALLOWED = {
     "dicset": DICTIONARY | {"dicset"},
     "grammar": FOUNDATION | TEXT | {"grammar"},
     "morphology": UTIL | {"grammar", "morphology"},
-    "lexicon": {"lexicon"},
+    "lexicon": {"lexicon", "platform/replace.h"},
     "tools": {"tools", "lexicon"},
     "examples": set(),
     "bench": {"bench", "text/literal.h"},

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "tests/common/foundation/file_fixture.h"
+#include "tests/support/unprivileged.h"
 
 namespace {
 
@@ -199,6 +200,11 @@ TEST_F(StatusTest, CopyReplacesTheTargetWithContentsPermissionsAndTime) {
   EXPECT_EQ(status.st_mode & 0777U, 0444U);
   EXPECT_EQ(ZCFile::Copy(from.c_str(), path("new").c_str()), 1);
   EXPECT_EQ(contents(path("new")), big);
+  // In place, where the directory takes no new file.
+  ASSERT_EQ(chmod(file("open", "old").c_str(), 0666) + chmod(directory_.c_str(), 0555), 0);
+  const kz::test::Unprivileged rights;
+  EXPECT_EQ(ZCFile::Copy(from.c_str(), path("open").c_str()), 1);
+  EXPECT_EQ(contents(path("open")), big);
 }
 
 TEST_F(StatusTest, FailedCopyLeavesTheTargetAndNothingElse) {

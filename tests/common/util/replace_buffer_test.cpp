@@ -14,6 +14,7 @@
 
 #include "kz/file.h"
 #include "tests/support/temp_dir.h"
+#include "tests/support/unprivileged.h"
 #include "text/literal.h"
 
 using kz::operator""_1251;
@@ -288,6 +289,15 @@ TEST_F(ReplaceBufferTest, FilesAreWrittenInOneStep) {
   EXPECT_EQ(read("list.txt"), "new");
   EXPECT_TRUE(std::filesystem::is_symlink(dir_.file("link")));
   EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+
+  {  // in place where the directory takes no new file
+    std::filesystem::permissions(path, std::filesystem::perms(0666));
+    std::filesystem::permissions(dir_.file(""), std::filesystem::perms(0555));
+    const kz::test::Unprivileged rights;
+    EXPECT_EQ(SaveBuffer(path.c_str(), "in place"), 0);
+    EXPECT_EQ(read("list.txt"), "in place");
+  }
+  std::filesystem::permissions(dir_.file(""), std::filesystem::perms(0755));
 
   std::filesystem::remove(path);  // also a link to a file that is yet to be made
   std::filesystem::create_symlink(dir_.file("link"), dir_.file("second"));
