@@ -102,20 +102,26 @@ struct InflectionCore {
     return file.GetPosition() == file.GetLength();
   }
 
+  template <typename Visit>
+  static void for_each_entry(const Table& table, Visit visit) {
+    ZCString key;
+    ZCObject* value = nullptr;
+    for (POSITION at = table.entries_.GetStartPosition(); at != nullptr;) {
+      table.entries_.GetNextAssoc(at, key, value);
+      visit(static_cast<CGrSrcWordObj&>(*value));
+    }
+  }
+
   static void write_compiled(const Table& table, const char* path) {
     const auto count = static_cast<std::size_t>(table.entries_.GetCount());
     if (count > kMostEndings) return;
     std::string file;
     append_count(file, count);
-    ZCString key;
-    ZCObject* value = nullptr;
-    for (POSITION at = table.entries_.GetStartPosition(); at != nullptr;) {
-      table.entries_.GetNextAssoc(at, key, value);
-      auto& entry = static_cast<CGrSrcWordObj&>(*value);
+    for_each_entry(table, [&file](const CGrSrcWordObj& entry) { append_entry(file, entry); });
+    if (!platform::write_whole_file(path, file)) return;
+    for_each_entry(table, [](CGrSrcWordObj& entry) {
       entry.length = static_cast<std::uint8_t>(std::strlen(entry.ending));
-      append_entry(file, entry);
-    }
-    platform::write_whole_file(path, file);
+    });
   }
 
   static std::string text_path(std::string_view path) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 #include <utility>
 
 #include "foundation/text_key.h"
@@ -100,10 +101,9 @@ void append_entry(std::string& file, const CGrSrcWordObj& entry) {
   for (std::size_t i = 0; i < entry.count; ++i) {
     for (const std::uint32_t word : entry.attributes[i]) append_u32(file, word);
   }
-  file += static_cast<char>(entry.length);
-  for (std::size_t i = 0; i < entry.length; ++i) {
-    file += with_key(static_cast<std::uint8_t>(entry.ending[i]));
-  }
+  const std::string_view ending = entry.ending;
+  file += static_cast<char>(ending.size());
+  for (const char c : ending) file += with_key(static_cast<std::uint8_t>(c));
 }
 
 }  // namespace kz

@@ -183,6 +183,7 @@ TEST_F(InflectionTest, TheFirstLoadCompilesTheTableAndLaterOnesReadThat) {
   Table first;
   ASSERT_EQ(load(first), 0);
   const std::vector<Entry> entries = entries_of(first);
+  EXPECT_EQ(first.GetFirstFlex()->length, std::strlen(first.GetFirstFlex()->ending));
   EXPECT_EQ(read("ru.Dat"), compiled(entries));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.file("")), {}), 2);
 
@@ -264,6 +265,7 @@ TEST_F(InflectionTest, ATableThatCannotBeWrittenStaysInMemory) {
   Table table;
   EXPECT_EQ(load(table), 0);
   EXPECT_EQ(entries_of(table).size(), 1u);
+  EXPECT_EQ(table.GetFirstFlex()->length, 0) << "in no compiled table yet";
   EXPECT_EQ(read("ru.Dat"), "damaged");
   other.Close();
 
