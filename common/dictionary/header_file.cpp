@@ -7,6 +7,7 @@
 #include "dictionary/error.h"
 #include "dictionary/header_layout.h"
 #include "kz/file.h"
+#include "platform/file.h"
 
 namespace kz {
 namespace {
@@ -79,7 +80,9 @@ std::uint16_t DicHeaderSetProperties(const char* path, const char* title, const 
   if (title != nullptr) kz::fill_field(&bytes[layout::kTitle], layout::kTitleSize, title);
   if (label != nullptr) kz::fill_field(&bytes[layout::kLabel], layout::kLabelSize, label);
   DicPwSet(&bytes[layout::kPassword], password);
-  if (file.Write(bytes.data(), kz::kHeaderSize) != kz::kHeaderSize) kz::set_error(DIC_ERR_FILE);
+  if (file.Write(bytes.data(), kz::kHeaderSize) != kz::kHeaderSize || !kz::platform::flush(file)) {
+    kz::set_error(DIC_ERR_FILE);
+  }
   return kz::last_error();
 }
 
