@@ -15,6 +15,7 @@
 #include "lexicon/file/delivery.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/source/entry_reader.h"
+#include "lexicon/file/outputs.h"
 #include "tools/refusals.h"
 #include "tools/status.h"
 
@@ -184,6 +185,7 @@ std::size_t count_headwords(const std::vector<Record>& records) {
 }  // namespace
 
 void build(const BuildOptions& options) {
+  refuse_inputs_as_output(options.output, options.sources);
   const SourceText source = read_source(options.sources, Marked::kDirective, &std::cin);
   const Properties properties = settle_properties(options, source.properties);
   const std::string& language = properties.language;
@@ -217,9 +219,9 @@ void build(const BuildOptions& options) {
 
   const SharedText shared = place_bodies(records, options.packed, may_share);
   Delivery output(options.output);
-  const Written written =
-      write_dictionary(output.path(), header, order, records, options.packed, shared.block);
-  verify_dictionary(output.path(), records);
+  const Written written = write_dictionary(output.handle(), options.output, header, order, records,
+                                           options.packed, shared.block);
+  verify_dictionary(output.path(), options.output, records);
   output.deliver();
 
   if (options.quiet) return;

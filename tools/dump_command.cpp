@@ -13,6 +13,7 @@
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/source/source_writer.h"
 #include "lexicon/text/code_page.h"
+#include "lexicon/file/outputs.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -95,6 +96,7 @@ Iterator open_walk(const DumpOptions& options, const FileHeader& header) {
 }  // namespace
 
 void dump(const DumpOptions& options) {
+  refuse_inputs_as_output("-", {options.dictionary});
   open_dictionary(options.dictionary, 0);  // tells a header that is not sound
   const FileHeader header = read_file_header(options.dictionary);
   const LetterRange range(header, options.from, options.to);

@@ -3,10 +3,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <optional>
 
@@ -16,6 +13,7 @@
 #include "lexicon/import/dictd.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
+#include "lexicon/file/outputs.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -187,28 +185,23 @@ void write_source(std::ostream& out, const std::string& name, Import& import,
       << "*: language " << language << '\n'
       << "*: title " << name.substr(0, 40) << "\n*\n";
   import.write(out);
-  out.flush();
-  if (!out) throw Failure(Status::kFile, "cannot write the source text");
 }
 
 }  // namespace
 
 void import_dictd(const ImportOptions& options) {
+  refuse_inputs_as_output(
+      options.output, {options.base + ".index", options.base + ".dict.dz", options.base + ".dict"});
   const DictdDatabase database(options.base);
   const std::string language = settle_language(options, database);
   const std::string name = std::filesystem::path(options.base).filename().string();
   Import import(database, language);
   if (options.output == "-") {
     write_source(std::cout, name, import, language);
+    if (!std::cout.flush()) throw Failure(Status::kFile, "cannot write to standard output");
   } else {
     Delivery output(options.output);
-    errno = 0;
-    std::ofstream out(output.path(), std::ios::binary);
-    if (!out) {
-      throw Failure(Status::kFile, options.output + ": cannot write: " + std::strerror(errno));
-    }
-    write_source(out, name, import, language);
-    out.close();
+    write_source(output.stream(), name, import, language);
     output.deliver();
   }
   if (!options.quiet) import.report(name);

@@ -179,6 +179,7 @@ Status inflect(const InflectOptions& options) {
     throw Failure(Status::kUsage, "no word is given");
   }
   if (!options.source.empty()) build_table(options.source, options.table, &std::cin);
+  if (options.words.empty()) return Status::kOk;
   Inflection session(options);
   for_each_word(options.words,
                 [&session](const std::string& word, bool line) { session.answer(word, line); });

@@ -12,6 +12,7 @@
 #include <nlohmann/json.hpp>
 
 #include "lexicon/text/code_page.h"
+#include "lexicon/file/outputs.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -164,10 +165,12 @@ void LineFilter::describe(const Block& line, Json& object) {
 }
 
 void run_filter(LineFilter& filter, const FilterOptions& options) {
+  const std::vector<std::string> files =
+      options.files.empty() ? std::vector<std::string>{"-"} : options.files;
+  refuse_inputs_as_output("-", files);
   Run run(filter, options);
   try {
-    if (options.files.empty()) return run.file("-");
-    for (const std::string& path : options.files) run.file(path);
+    for (const std::string& path : files) run.file(path);
   } catch (const std::bad_alloc&) {
     throw Failure(Status::kFile, "not enough memory for a line this long");
   }

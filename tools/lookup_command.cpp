@@ -29,10 +29,10 @@ class Lookup {
   explicit Lookup(const LookupOptions& options)
       : options_(options),
         printer_(make_printer(options.raw, options.json, options.grammar, std::cout)) {
+    if (!options.inflected.empty()) table_ = load_table(options.inflected);
     for (const std::string& path : options.dictionaries) {
       searchers_.push_back(std::make_unique<Searcher>(path));
     }
-    if (!options.inflected.empty()) table_ = load_table(options.inflected);
     if (options.set.directory.empty()) return;
     set_.emplace(options.set);
     for (const std::string& path : set_->missing()) {

@@ -10,6 +10,7 @@
 #include "kz/dic_error.h"
 #include "kz/replace_buffer.h"
 #include "lexicon/text/russian_text.h"
+#include "lexicon/file/outputs.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -98,6 +99,7 @@ class ReplaceFilter : public LineFilter {
 }  // namespace
 
 void replace(const ReplaceOptions& options) {
+  refuse_inputs_as_output("-", {options.buffer});
   ReplaceFilter filter(options.buffer);
   run_filter(filter, options.filter);
 }

@@ -2,6 +2,7 @@
 #include "platform/replace.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <stdio.h>
 #include <sys/mman.h>
 #include <sys/random.h>
@@ -42,6 +43,22 @@ class KeepErrno {
 
  private:
   int error_;
+};
+
+// What a handler looks at is complete before it runs.
+class SignalsWait {
+ public:
+  SignalsWait() {
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before_);
+  }
+  SignalsWait(const SignalsWait&) = delete;
+  SignalsWait& operator=(const SignalsWait&) = delete;
+  ~SignalsWait() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+ private:
+  sigset_t before_;
 };
 
 bool fail(int error) {
@@ -218,11 +235,16 @@ void remove_unfinished(const UnfinishedFile& file) noexcept {
   }
 }
 
-Replacement::~Replacement() {
-  remove_unfinished(file_);
-  close_if_open(file_.handle);
+void Replacement::abandon() noexcept {
+  discard_unfinished();
   close_if_open(file_.directory);
   close_if_open(target_);
+}
+
+void Replacement::discard_unfinished() noexcept {
+  remove_unfinished(file_);
+  file_.name[0] = '\0';
+  close_if_open(file_.handle);
 }
 
 bool Replacement::begin(const char* target, const ReplaceOptions& options) {
@@ -235,9 +257,7 @@ bool Replacement::begin(const char* target, const ReplaceOptions& options) {
   if (target_ != kNoFile && !names_file(place->c_str(), target_)) return keep_aside();
   if (create_beside(place->native())) {
     if (target_ == kNoFile || take_over_status()) return true;
-    remove_unfinished(file_);
-    close_if_open(file_.handle);
-    file_.name[0] = '\0';
+    discard_unfinished();
     return keep_aside();
   }
   return target_ != kNoFile && is_forbidden(errno) && keep_aside();
@@ -275,6 +295,7 @@ bool Replacement::create_beside(const std::string& target) {
   }
   file_.directory = open_directory(path_);
   if (file_.directory == kNoFile) return false;
+  const SignalsWait wait;
   do {
     if (!make_unfinished_name(file_.name)) break;
     file_.handle = openat(file_.directory, file_.name.data(),

@@ -38,7 +38,7 @@ struct ReplaceOptions {
   int pattern = -1;
 };
 
-// What identifies an unfinished file.
+// What identifies an unfinished file. No handler of a signal sees it half-written.
 struct UnfinishedFile {
   int directory = -1;
   int handle = -1;
@@ -54,7 +54,7 @@ class Replacement {
   Replacement() = default;
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
-  ~Replacement();
+  ~Replacement() { abandon(); }
 
   // Once for each object. A target that is a symbolic link stays one: it leads to the new file,
   // also if it leads nowhere yet. Other hard links to the target keep the old contents when it is
@@ -69,6 +69,7 @@ class Replacement {
   const UnfinishedFile& unfinished() const { return file_; }
 
   bool commit();
+  void abandon() noexcept;
 
  private:
   enum class Way {
@@ -80,6 +81,7 @@ class Replacement {
   bool open_target(const char* target);
   bool create_beside(const std::string& target);
   bool keep_aside();
+  void discard_unfinished() noexcept;
   bool take_over_status() const;
   bool give_name();
   bool rewrite_target();

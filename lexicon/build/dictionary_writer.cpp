@@ -21,8 +21,6 @@ namespace {
 constexpr std::uint16_t kFormatVersion = 0x300;
 constexpr std::uint32_t kDataOffset = 154;
 
-constexpr unsigned kCreateExclusively = 0x1000 | 0x0080 | 0x0010 | 2;
-
 // Offsets of header fields.
 enum HeaderField : std::size_t {
   kLabelField = 48,
@@ -89,18 +87,13 @@ class Header {
 // The file under way. Every failed write ends the command.
 class Output {
  public:
-  explicit Output(const std::string& path) : path_(path) {
-    if (file_.Open(path.c_str(), kCreateExclusively) == 0) fail("cannot create");
-  }
-  ~Output() { file_.Close(); }
-  Output(const Output&) = delete;
-  Output& operator=(const Output&) = delete;
+  Output(int handle, const std::string& name) : name_(name), file_(handle) {}
 
   ZCFile& file() { return file_; }
 
   void write(std::string_view bytes) {
     if (bytes.size() > std::numeric_limits<std::int32_t>::max() - size_) {
-      throw Error(ErrorCode::kData, path_ + ": a dictionary cannot be larger than 2 GB");
+      throw Error(ErrorCode::kData, name_ + ": a dictionary cannot be larger than 2 GB");
     }
     const auto count = static_cast<unsigned>(bytes.size());
     if (count != 0 && file_.Write(bytes.data(), count) != count) fail("cannot write");
@@ -108,15 +101,14 @@ class Output {
   }
   std::uint32_t position() { return file_.GetPosition(); }
   void rewind() { file_.SeekToBegin(); }
-  void flush() { file_.Flush(); }
 
   [[noreturn]] void fail(const std::string& what) const {
-    throw Error(ErrorCode::kFile, path_ + ": " + what + ": " + std::strerror(errno));
+    throw Error(ErrorCode::kFile, name_ + ": " + what + ": " + std::strerror(errno));
   }
 
  private:
-  std::string path_;
-  ZCFile file_;
+  std::string name_;
+  ZCFile file_;  // on a handle that is not its own
   std::size_t size_ = 0;
 };
 
@@ -185,8 +177,8 @@ void write_records(Output& out, CDicIndex& index, int depth, const std::vector<R
 
 }  // namespace
 
-Written write_dictionary(const std::string& path, const HeaderText& text, const SortOrder& order,
-                         const std::vector<Record>& records, bool packed,
+Written write_dictionary(int handle, const std::string& name, const HeaderText& text,
+                         const SortOrder& order, const std::vector<Record>& records, bool packed,
                          const std::string& shared_block) {
   const std::vector<Group> groups = groups_of(records, order.depth());
   const auto alphabet = static_cast<std::int16_t>(order.alphabet_size());
@@ -194,11 +186,11 @@ Written write_dictionary(const std::string& path, const HeaderText& text, const 
   CDicIndex index('R');
   if (index.Init(0, text.language.c_str(), text.type.c_str(), alphabet, 0, depth, kFormatVersion, 0,
                  0) == 0) {
-    throw Error(ErrorCode::kFile, path + ": not enough memory for the index");
+    throw Error(ErrorCode::kFile, name + ": not enough memory for the index");
   }
 
   Header header;
-  Output out(path);
+  Output out(handle, name);
   out.write(header.bytes());
   write_records(out, index, depth, records, groups, packed);
   const std::uint32_t index_offset = out.position();
@@ -229,7 +221,6 @@ Written write_dictionary(const std::string& path, const HeaderText& text, const 
   header.put_checksum();
   out.rewind();
   out.write(header.bytes());
-  out.flush();
   return {groups.size(), index_offset - kDataOffset, shared_offset - index_offset, file_size};
 }
 

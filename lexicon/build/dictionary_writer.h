@@ -29,10 +29,10 @@ struct Written {
   std::size_t file_bytes = 0;
 };
 
-// Writes the records, sorted by group and headword, under the path; a file that exists is replaced.
-// The same arguments give the same bytes. Throws Error.
-Written write_dictionary(const std::string& path, const HeaderText& text, const SortOrder& order,
-                         const std::vector<Record>& records, bool packed,
+// Writes the records, sorted by group and headword, to an empty open file. The same arguments give
+// the same bytes. Throws Error, which names the file so.
+Written write_dictionary(int handle, const std::string& name, const HeaderText& text,
+                         const SortOrder& order, const std::vector<Record>& records, bool packed,
                          const std::string& shared_block);
 
 }  // namespace kz::lexicon

@@ -14,31 +14,32 @@ constexpr std::int16_t kExact = 0;
 constexpr std::int16_t kToTheEnd = -1;
 constexpr std::int16_t kResolve = 2;
 
-void expect(const std::string& path, const char* found, const Record& record) {
+void expect(const std::string& name, const char* found, const Record& record) {
   if (found != nullptr && record.text == found) return;
-  throw Error(ErrorCode::kData, path + ": the finished dictionary cannot be searched: '" +
+  throw Error(ErrorCode::kData, name + ": the finished dictionary cannot be searched: '" +
                                     record.headword +
                                     (found == nullptr ? "' is not found" : "' reads otherwise"));
 }
 
 }  // namespace
 
-void verify_dictionary(const std::string& path, const std::vector<Record>& records) {
+void verify_dictionary(const std::string& path, const std::string& name,
+                       const std::vector<Record>& records) {
   const Dictionary dictionary = open_dictionary(path, 0);
   const char* found = nullptr;
   for (std::size_t i = 0; i < records.size(); ++i) {
     const bool again = i > 0 && records[i].headword == records[i - 1].headword;
     found = again ? DicFindNext(dictionary.get(), kResolve)
                   : DicFind(dictionary.get(), records[i].headword.c_str(), kExact, kResolve);
-    expect(path, found, records[i]);
+    expect(name, found, records[i]);
   }
   for (std::size_t i = 0; i < records.size(); ++i) {
     found = i > 0 ? DicFindNext(dictionary.get(), kResolve)
                   : DicFind(dictionary.get(), nullptr, kToTheEnd, kResolve);
-    expect(path, found, records[i]);
+    expect(name, found, records[i]);
   }
   if (DicFindNext(dictionary.get(), kResolve) != nullptr) {
-    throw Error(ErrorCode::kData, path + ": the finished dictionary has records too many");
+    throw Error(ErrorCode::kData, name + ": the finished dictionary has records too many");
   }
 }
 

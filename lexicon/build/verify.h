@@ -10,8 +10,10 @@
 namespace kz::lexicon {
 
 // Opens the dictionary, looks every headword up by exact search and walks all records from the
-// first to the last; each entry has to come back unchanged. Throws Error.
-void verify_dictionary(const std::string& path, const std::vector<Record>& records);
+// first to the last; each entry has to come back unchanged. Throws Error, which names the
+// dictionary so.
+void verify_dictionary(const std::string& path, const std::string& name,
+                       const std::vector<Record>& records);
 
 }  // namespace kz::lexicon
 

@@ -3,23 +3,27 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <map>
 #include <sstream>
 
 #include "kz/charclass.h"
+#include "kz/file.h"
 #include "kz/gram_codec.h"
 #include "kzlexicon/error.h"
 #include "lexicon/file/delivery.h"
 #include "lexicon/source/source_text.h"
 #include "lexicon/text/code_page.h"
+#include "lexicon/file/outputs.h"
 
 namespace kz::lexicon {
 namespace {
 
+constexpr const char* kHint = " (kzdic inflect --build makes a table)";
+constexpr unsigned kReadDenyingWrite = 0x8020;
 constexpr std::string_view kCompiledExtension = ".Dat";
 constexpr std::size_t kLongestEnding = 79;
 constexpr int kRecords = 4;
@@ -109,35 +113,74 @@ std::string encode_text(const std::string& path, std::istream* standard_input) {
   return bytes;
 }
 
+class Table : public CGrSrcWordFlex {
+ public:
+  using CGrSrcWordFlex::GetWord;
+};
+
+void append_number(std::string& bytes, std::uint32_t value, int size) {
+  for (; size > 0; --size, value >>= 8) bytes += static_cast<char>(value);
+}
+
+// The compiled form of the lines, as docs/tables.md describes it.
+std::string compile(const std::string& lines, const std::string& source) {
+  constexpr std::size_t kMostEndings = 0xFFFF;
+  constexpr char kTextKey = '~';
+  Table table;
+  std::istringstream in(lines);
+  for (std::string line; std::getline(in, line);) table.GetWord(line.c_str());
+  std::string entries;
+  std::size_t count = 0;
+  for (const CGrSrcWordObj* at = table.GetFirstFlex(); at != nullptr; at = table.GetNextFlex()) {
+    ++count;
+    append_number(entries, at->count, 1);
+    for (int i = 0; i < at->count; ++i) {
+      for (const std::uint32_t word : at->attributes[i]) append_number(entries, word, 4);
+    }
+    const std::string_view ending = at->ending;
+    append_number(entries, static_cast<std::uint32_t>(ending.size()), 1);
+    for (const char c : ending) entries += static_cast<char>(c ^ kTextKey);
+  }
+  if (count == 0) throw Error(ErrorCode::kData, source + ": holds no endings");
+  if (count > kMostEndings) {
+    throw Error(ErrorCode::kData,
+                source + ": more than " + std::to_string(kMostEndings) + " endings");
+  }
+  std::string bytes;
+  append_number(bytes, static_cast<std::uint32_t>(count), 2);
+  return bytes + entries;
+}
+
 }  // namespace
 
 void build_table(const std::string& source, const std::string& path, std::istream* standard_input) {
   const std::string text = text_path(path);
-  std::error_code ignored;
-  if (std::filesystem::equivalent(source, text, ignored)) {
-    throw Error(ErrorCode::kArgument,
-                text + ": the text would replace itself in another code page");
-  }
+  refuse_inputs_as_output(text, {source, path});
+  refuse_inputs_as_output(path, {source});
   const std::string bytes = encode_text(source, standard_input);
-  Delivery delivery(text);
-  std::ofstream out(delivery.path(), std::ios::binary);
-  out << bytes;
-  out.close();
-  if (!out) throw Error(ErrorCode::kFile, text + ": cannot write");
-  std::filesystem::remove(path, ignored);
-  delivery.deliver();
-  load_table(path);  // writes it
-  if (!std::filesystem::exists(path)) throw Error(ErrorCode::kFile, path + ": cannot write");
+  const std::string compiled = compile(bytes, source);
+  Delivery text_file(text);
+  Delivery table_file(path);
+  text_file.stream() << bytes;
+  table_file.stream() << compiled;
+  text_file.deliver();
+  table_file.deliver();
 }
 
 std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path) {
-  const std::string text = text_path(path);
+  text_path(path);
+  ZCFile file;
+  errno = 0;
+  if (file.Open(path.c_str(), kReadDenyingWrite) == 0) {
+    const std::string reason = std::strerror(errno);
+    throw Error(ErrorCode::kFile, path + ": cannot open: " + reason + kHint);
+  }
+  // By a name without ".Dat" it reads this file or none, and writes none.
+  const std::string name = "/proc/self/fd/" + std::to_string(static_cast<int>(file));
   auto table = std::make_unique<CGrSrcWordFlex>();
-  if (table->Load(path.c_str(), "", 1) != 0) {
-    if (std::filesystem::exists(path)) {
-      throw Error(ErrorCode::kData, path + ": not an inflection table, or a damaged one");
-    }
-    throw Error(ErrorCode::kFile, path + ": cannot open, nor " + text);
+  // An empty one would be looked for again.
+  if (table->Load(name.c_str(), "", 1) != 0 || table->GetFirstFlex() == nullptr) {
+    throw Error(ErrorCode::kData, path + ": not an inflection table, or a damaged one" + kHint);
   }
   return table;
 }

@@ -12,12 +12,12 @@
 namespace kz::lexicon {
 
 // Writes the table `path`, whose name ends in ".Dat", and the Windows-1251 text beside it from a
-// text in UTF-8. A line that the library would pass over or not understand is an error. Throws
-// Error.
+// text in UTF-8. A line that the library would pass over or not understand is an error, and so is
+// an output that is an input. Throws Error.
 void build_table(const std::string& source, const std::string& path,
                  std::istream* standard_input = nullptr);
 
-// Throws Error.
+// Never makes a table. Throws Error.
 std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path);
 
 // Windows-1251 with the letter yo written as ye.

@@ -279,9 +279,20 @@ TEST(InflectTable, RefusesWhatTheLibraryWouldPassOver) {
     EXPECT_FALSE(place.exists("x.Dat"));
   }
   place.write("t.txt", "*: a comment\nами NM 12a D1 | NMa\r\nём NM 65535я\n");
-  EXPECT_EQ(place.kzdic({"inflect", "--build", "t.txt", "t.Dat"}).status, 2);  // would be replaced
   EXPECT_EQ(place.kzdic({"inflect", "--build", "t.txt", "x.dat"}).status, 2);
-  EXPECT_EQ(place.kzdic({"inflect", "x.Dat", "столами"}).status, 3);
+  // No table is made but by --build: neither a missing nor a damaged one.
+  const auto refuses_table = [&place](int status) {
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"inflect", "x.Dat", "столами"},
+          {"lookup", "--inflected", "x.Dat", "none.dic", "столами"}}) {
+      const Outcome outcome = place.kzdic(command);
+      EXPECT_EQ(outcome.status, status);
+      EXPECT_THAT(outcome.err, HasSubstr("kzdic inflect --build"));
+    }
+  };
+  place.write("x.txt", "\xE0\xEC\xE8 NM\n");
+  refuses_table(3);
+  EXPECT_FALSE(place.exists("x.Dat"));
   EXPECT_EQ(place.kzdic({"inflect", "--build", "t.txt", "x.Dat"}).status, 0);
   EXPECT_EQ(place.kzdic({"inflect", "x.Dat"}).status, 2);
   EXPECT_EQ(place.kzdic({"inflect", "x.Dat", "столами", "огнём"}).out,
@@ -293,9 +304,11 @@ TEST(InflectTable, RefusesWhatTheLibraryWouldPassOver) {
   place.write("t.txt", "ами NF\n");
   EXPECT_EQ(place.kzdic({"inflect", "--build", "t.txt", "x.Dat", "столами"}).out,
             "столами  ами NF\n    noun, feminine\n");
-  std::filesystem::remove(place.path("x.txt"));
-  place.write("x.Dat", "\x01");
-  EXPECT_EQ(place.kzdic({"inflect", "x.Dat", "столами"}).status, 4);
+  for (const std::string& damaged : {std::string("\x01"), std::string(2, '\0')}) {
+    place.write("x.Dat", damaged);
+    refuses_table(4);
+    EXPECT_EQ(place.read("x.Dat"), damaged);
+  }
 }
 
 }  // namespace
