@@ -24,8 +24,8 @@ void refuse_inputs_as_output(const std::string& output, const std::vector<std::s
     if (find_file(input, STDIN_FILENO, read) && read.st_dev == written.st_dev &&
         read.st_ino == written.st_ino) {
       throw Error(ErrorCode::kArgument, (output == "-" ? "(standard output)" : output) +
-                                        ": would be written over, and is an input" +
-                                        (input == output || input == "-" ? "" : ": " + input));
+                                            ": would be written over, and is an input" +
+                                            (input == output || input == "-" ? "" : ": " + input));
     }
   }
 }

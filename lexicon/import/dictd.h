@@ -17,12 +17,18 @@ struct DictdEntry {
   std::string headword;  // as the index spells it
   std::string_view text;
   std::size_t offset;  // of the text in the text file
+  std::size_t length;
+  std::size_t line;  // of the index
 };
 
 class DictdDatabase {
  public:
-  // Reads the whole database. Throws Error for a file that cannot be read or is damaged.
-  explicit DictdDatabase(const std::string& base);
+  // Compressed texts can be much longer than their files.
+  static constexpr std::size_t kLongestText = 0x7FFFFFFF;
+
+  // Reads the index, and of the text what the index needs. Throws Error for a file that cannot be
+  // read, is damaged, or holds a longer text.
+  explicit DictdDatabase(const std::string& base, std::size_t limit = kLongestText);
   DictdDatabase(const DictdDatabase&) = delete;
   DictdDatabase& operator=(const DictdDatabase&) = delete;
 

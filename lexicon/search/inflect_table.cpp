@@ -15,9 +15,9 @@
 #include "kz/gram_codec.h"
 #include "kzlexicon/error.h"
 #include "lexicon/file/delivery.h"
+#include "lexicon/file/outputs.h"
 #include "lexicon/source/source_text.h"
 #include "lexicon/text/code_page.h"
-#include "lexicon/file/outputs.h"
 
 namespace kz::lexicon {
 namespace {

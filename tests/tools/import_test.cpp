@@ -87,7 +87,7 @@ TEST(Import, RefusesDamagedDatabases) {
   const std::vector<std::pair<std::string, std::string>> damages = {
       {"word\tA\n", "db.index:1:"},
       {"one\tA\tB\nword\tA\t//\n", "db.index:2:"},
-      {"word\tA\t!\n", "db.index:1:"},
+      {"word\tA\t!\n", "db.index:1: the offset or length is no number"},
       {"word\t////////////\tA\n", "db.index:1:"}};
   for (const auto& [index, message] : damages) {
     const Workplace place;
@@ -104,12 +104,33 @@ TEST(Import, RefusesDamagedDatabases) {
   const std::string bytes = place.read("db.dict.dz");
   place.write("db.dict.dz", bytes.substr(0, bytes.size() - 12));
   EXPECT_EQ(place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt"}).status, 4);
-  place.write("db.dict.dz", "ab\xFF\xFE not UTF-8");
+  place.write("db.dict.dz", "plain text");
+  EXPECT_THAT(place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt"}).err,
+              HasSubstr("db.dict.dz: not a gzip file"));
+  std::filesystem::remove(place.path("db.dict.dz"));
+  place.write("db.dict", "ab\xFF\xFE not UTF-8");
   place.write("db.index", "word\tA\tI\n");
   const Outcome outcome =
       place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt", "--language", "ENRU"});
   EXPECT_EQ(outcome.status, 4);
-  EXPECT_THAT(outcome.err, HasSubstr("db.dict.dz: offset 2"));
+  EXPECT_THAT(outcome.err, HasSubstr("db.dict: offset 2"));
+}
+
+TEST(Dictd, TextIsReadToItsEndWhateverTheIndexNeeds) {
+  const Workplace place;
+  Database database;
+  database.add("word", "text");
+  database.text += std::string(200'000, '\0');
+  database.write(place, true);
+  const std::size_t length = database.text.size();
+  EXPECT_EQ(kzdic::DictdDatabase(place.path("db"), length).entries().at(0).text, "text");
+  try {
+    kzdic::DictdDatabase(place.path("db"), length - 1);
+    ADD_FAILURE();
+  } catch (const kzdic::Error& error) {
+    EXPECT_EQ(error.code(), kz::lexicon::ErrorCode::kData);
+    EXPECT_THAT(error.what(), HasSubstr("db.dict.dz: the text is longer than 200003 bytes"));
+  }
 }
 
 TEST(Base64, ReadsDigitsMostSignificantFirst) {

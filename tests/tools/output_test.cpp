@@ -34,6 +34,8 @@ struct Command {
   Arguments inputs;
 };
 
+void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
+
 const Command kBuild = {"build", {"build", "-q", "s.txt", "-o"}, {"s.txt"}};
 const Command kImport = {"import",
                          {"import", "-q", "--from", "dictd", "db", "--language", "ENRU", "-o"},
