@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 #include <string_view>
 
-#include "lexicon/entry/entry_grammar.h"
-#include "lexicon/entry/entry_view.h"
+#include "kzlexicon/entry.h"
+#include "lexicon/entry/record_view.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
 #include "tools/grammar_output.h"
@@ -52,7 +52,7 @@ class TextPrinter : public Printer {
 
  private:
   void print_entry(const std::string& text, const std::string& language) {
-    const EntryView entry = view_entry(text, language);
+    const EntryView entry = view_record(text, language);
     out_ << "  " << entry.spelling;
     if (!entry.part_code.empty()) {
       out_ << ", " << (entry.part_of_speech.empty() ? entry.part_code : entry.part_of_speech);
@@ -131,7 +131,7 @@ class JsonPrinter : public Printer {
   using Json = nlohmann::ordered_json;
 
   Json entry_object(const std::string& text, const Found& dictionary) const {
-    const EntryView entry = view_entry(text, dictionary.language);
+    const EntryView entry = view_record(text, dictionary.language);
     Json meanings = Json::array();
     for (const MeaningView& meaning : entry.meanings) {
       meanings.push_back({{"number", meaning.number},

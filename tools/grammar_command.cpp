@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "lexicon/grammar/grammar_decode.h"
+#include "kzlexicon/grammar.h"
 #include "tools/grammar_lines.h"
 #include "tools/grammar_output.h"
 #include "tools/status.h"

@@ -3,7 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "lexicon/entry/entry_view.h"
+#include "kzlexicon/entry.h"
 #include "tools/grammar_output.h"
 #include "tools/status.h"
 
@@ -32,7 +32,7 @@ std::string hex(std::uint32_t word) {
 void print_part_of_speech(const std::string& code, std::ostream& out) {
   std::string text = code;
   const std::string name = part_name(code);
-  const std::string_view group = tag_group(code_byte(code));
+  const std::string_view group = tag_group_of(code);
   if (!name.empty()) text += ", " + name;
   text += group.empty() ? " (common tags only)" : " (" + std::string(group) + " tags)";
   print_line("part-of-speech", text, out);
@@ -78,7 +78,7 @@ nlohmann::ordered_json fields_json(const std::vector<Field>& fields) {
 
 nlohmann::ordered_json decoded_json(const Decoded& decoded) {
   nlohmann::ordered_json words = nlohmann::ordered_json::array();
-  for (const std::uint32_t word : decoded.grammar.gram.word) words.push_back(hex(word));
+  for (const std::uint32_t word : decoded.words) words.push_back(hex(word));
   return {{"code", decoded.code},
           {"tags", decoded.tags},
           {"canonical", decoded.canonical},
@@ -87,7 +87,7 @@ nlohmann::ordered_json decoded_json(const Decoded& decoded) {
           {"ignored", decoded.ignored},
           {"unread", decoded.unread},
           {"words", words},
-          {"semantics", hex(decoded.grammar.semantics.word)}};
+          {"semantics", hex(decoded.semantics)}};
 }
 
 nlohmann::ordered_json grammar_json(const std::vector<WordGrammar>& words) {

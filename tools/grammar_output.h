@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "lexicon/entry/entry_grammar.h"
-#include "lexicon/grammar/grammar_decode.h"
+#include "kzlexicon/entry.h"
 #include "tools/status.h"
 
 namespace kzdic {

@@ -1,5 +1,5 @@
 // Attribute blocks, decoded by side and part of speech.
-#include "lexicon/entry/entry_grammar.h"
+#include "kzlexicon/entry.h"
 
 #include <array>
 #include <utility>

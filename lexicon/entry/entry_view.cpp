@@ -1,5 +1,5 @@
 // Entries without their marks.
-#include "lexicon/entry/entry_view.h"
+#include "lexicon/entry/record_view.h"
 
 #include <algorithm>
 #include <array>
@@ -157,8 +157,12 @@ std::string part_name(std::string_view code) {
   return {};
 }
 
-EntryView view_entry(const std::string& entry, const std::string& language) {
-  return Viewer(entry, language).view(entry);
+EntryView view_record(const std::string& record, const std::string& language) {
+  return Viewer(record, language).view(record);
+}
+
+EntryView view_entry(std::string_view text, std::string_view language) {
+  return view_record(encode_entry(from_utf8(text), language), std::string(language));
 }
 
 }  // namespace kz::lexicon

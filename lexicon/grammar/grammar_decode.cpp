@@ -1,7 +1,8 @@
 // Tag strings taken apart.
-#include "lexicon/grammar/grammar_decode.h"
-
 #include <algorithm>
+#include <iterator>
+
+#include "lexicon/grammar/grammar_fields.h"
 
 #include "kzlexicon/error.h"
 #include "lexicon/text/code_page.h"
@@ -39,11 +40,13 @@ Decoded decode_tags(std::string_view code, std::string_view tags) {
   decoded.code = code;
   decoded.tags = tags;
   std::string unread;
-  decoded.grammar = read_tags(byte, text, &unread);
+  const Grammar grammar = read_tags(byte, text, &unread);
+  std::copy(std::begin(grammar.gram.word), std::end(grammar.gram.word), decoded.words.begin());
+  decoded.semantics = grammar.semantics.word;
   decoded.unread = russian_to_utf8(unread);
   decoded.ignored = russian_to_utf8(ignored_characters(byte, text));
-  decoded.fields = fields_of(byte, decoded.grammar);
-  const std::string canonical = canonical_tags(byte, decoded.grammar);
+  decoded.fields = fields_of(byte, grammar);
+  const std::string canonical = canonical_tags(byte, grammar);
   decoded.canonical = russian_to_utf8(canonical);
   const std::vector<Field> kept = fields_of(byte, read_tags(byte, canonical));
   for (const Field& field : decoded.fields) {
@@ -51,6 +54,8 @@ Decoded decode_tags(std::string_view code, std::string_view tags) {
   }
   return decoded;
 }
+
+std::string_view tag_group_of(std::string_view code) { return tag_group(code_byte(code)); }
 
 std::string summary(const std::vector<Field>& fields) {
   std::string text;

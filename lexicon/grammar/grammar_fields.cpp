@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <optional>
 
 #include "kz/gram_codec.h"
 #include "lexicon/grammar/grammar_entries.h"

@@ -1,8 +1,5 @@
-// The vocabulary of grammar: names of what the records hold, in both directions.
-//
-// A field has a name and a value, "gender=masculine", "paradigm=12". Bits to which the library
-// gives no meaning are flags, named by their tag ("flag=x"), or by word and bit where the part of
-// speech has no tag for them ("flag=4/0").
+// The vocabulary of grammar: names of what the records hold, in both directions. All texts are
+// UTF-8.
 #ifndef KZ_LEXICON_GRAMMAR_FIELDS_H
 #define KZ_LEXICON_GRAMMAR_FIELDS_H
 
@@ -10,25 +7,14 @@
 #include <string_view>
 #include <vector>
 
+#include "kzlexicon/grammar.h"
 #include "lexicon/grammar/grammar_tags.h"
 
 namespace kz::lexicon {
 
-// All texts are UTF-8.
-struct Field {
-  enum class Kind { kWord, kNumber, kText, kFlag };
-
-  std::string name;
-  std::string value;
-  Kind kind = Kind::kText;
-  int word = -1;  // of a flag: where it stands
-  int bit = -1;
-};
-
-bool operator==(const Field& a, const Field& b);
-
-// "gender=masculine"
-std::string to_string(const Field& field);
+// The byte of a part-of-speech code. Throws Error for a text that is not one character of
+// Windows-1251.
+char code_byte(std::string_view code);
 
 // What the records hold, for a part of speech in Windows-1251.
 std::vector<Field> fields_of(char code, const Grammar& grammar);

@@ -91,6 +91,11 @@ std::string code_point(char32_t c) {
   return code.data();
 }
 
+BadText::BadText(std::size_t at, const std::string& message)
+    : Error(ErrorCode::kData, message), offset(at) {}
+
+BadUtf8::BadUtf8(std::size_t at) : BadText(at, "is not UTF-8") {}
+
 Unmappable::Unmappable(char32_t c, CodePage code_page)
     // A zero would end the message.
     : Error(ErrorCode::kCodePage, "the character '" +
@@ -202,6 +207,14 @@ bool can_encode(char32_t character, CodePage page) {
     return can_encode(character, CodePage::kRussian) || can_encode(character, CodePage::kWestern);
   }
   return table_of(page).byte_of(character) != 0;
+}
+
+std::string encode_utf8(std::string_view text, CodePage page) {
+  return encode(from_utf8(text), page);
+}
+
+std::string decode_utf8(std::string_view bytes, CodePage page) {
+  return to_utf8(decode(bytes, page));
 }
 
 }  // namespace kz::lexicon

@@ -5,7 +5,7 @@
 
 #include <random>
 
-#include "lexicon/entry/entry_view.h"
+#include "lexicon/entry/record_view.h"
 #include "lexicon/import/article.h"
 #include "lexicon/import/dictd.h"
 #include "lexicon/source/body_writer.h"
@@ -157,7 +157,7 @@ TEST(BodyWriter, HidesEveryMarkFromTheParser) {
     for (const std::string& line : writer.lines(entry)) {
       SCOPED_TRACE(line);
       const std::string bytes = kzdic::encode_entry(kzdic::from_utf8(line), "ENRU");
-      const kzdic::EntryView view = kzdic::view_entry(bytes, "ENRU");
+      const kzdic::EntryView view = kz::lexicon::view_record(bytes, "ENRU");
       EXPECT_EQ(view.headword, "word");
       EXPECT_EQ(view.reference, "");
       EXPECT_EQ(view.attribute, "");
@@ -183,7 +183,7 @@ TEST(BodyWriter, SpreadsLongEntriesOverRecordsAndKeepsEverySynonym) {
   for (const std::string& line : writer.lines(entry)) {
     const std::string bytes = kzdic::encode_entry(kzdic::from_utf8(line), "ENRU");
     EXPECT_LT(bytes.size(), 2049u);
-    for (const auto& meaning : kzdic::view_entry(bytes, "ENRU").meanings) {
+    for (const auto& meaning : kz::lexicon::view_record(bytes, "ENRU").meanings) {
       synonyms += meaning.synonyms.size();
     }
   }

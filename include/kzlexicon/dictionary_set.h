@@ -1,0 +1,48 @@
+// The dictionaries of a direction, opened together as a translation engine opens them.
+//
+//     using namespace kz::lexicon;
+//     DictionarySet set({.directory = ".", .direction = "ENRU"});
+//     for (Dictionary& dictionary : set.dictionaries())
+//       if (const Answer answer = dictionary.find("table"))
+//         std::cout << dictionary.path() << ": " << answer.entries.size() << '\n';
+//     // Output: ./baseenru.dic: 1
+#ifndef KZLEXICON_DICTIONARY_SET_H
+#define KZLEXICON_DICTIONARY_SET_H
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "kzlexicon/dictionary.h"
+#include "kzlexicon/export.h"
+
+namespace kz::lexicon {
+
+struct SetOptions {
+  std::string directory;  // where the base dictionaries and relative paths are
+  std::string direction;  // "ENRU"; may be empty when `config` names one
+  std::string config;     // a parameter string (docs/sets.md); empty for the base dictionaries
+};
+
+class KZL_API DictionarySet {
+ public:
+  // Opens the set. Throws Error when no dictionary of it can be loaded.
+  explicit DictionarySet(const SetOptions& options);
+  ~DictionarySet();
+  DictionarySet(DictionarySet&& other) noexcept;
+  DictionarySet& operator=(DictionarySet&& other) noexcept;
+
+  // In the order of a search; they live as long as the set.
+  std::span<Dictionary> dictionaries();
+  // Paths of dictionaries that belong to the set but cannot be loaded.
+  const std::vector<std::string>& missing() const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace kz::lexicon
+
+#endif  // KZLEXICON_DICTIONARY_SET_H

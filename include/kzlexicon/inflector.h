@@ -1,0 +1,82 @@
+// Inflection tables: the endings that a form of a word can have, and the headwords it may belong
+// to.
+//
+// A table is a text with an ending and its attributes on each line (docs/tables.md);
+// data/ruflex.txt is one for Russian. Tables are compiled to ".Dat" files, which programs load.
+//
+//     using namespace kz::lexicon;
+//     Inflector::compile_file("ruflex.txt", "ruflex.Dat");
+//     const Inflector inflector("ruflex.Dat");
+//     std::cout << inflector.headwords("книгами").front().headword << '\n';
+//     // Output: книга
+//
+// An Inflector is not changed by its calls; any number of threads may use one.
+#ifndef KZLEXICON_INFLECTOR_H
+#define KZLEXICON_INFLECTOR_H
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kzlexicon/export.h"
+
+namespace kz::lexicon {
+
+// One record of an ending: a class of words that have it.
+struct InflectionReading {
+  std::string word_class;            // "NM"
+  std::string addition;              // empty for none
+  int paradigm = 0;                  // 0 for none
+  std::string letter;                // of the paradigm; empty for none
+  std::string stem_change;           // empty for none
+  std::vector<std::string> grammar;  // "noun", "masculine": the part of speech comes first
+};
+
+struct Ending {
+  std::string ending;
+  std::string rest;        // the word without it
+  std::string attributes;  // as the text of the table has them: "ами NM 1 | NF 1"
+  std::vector<InflectionReading> readings;
+};
+
+struct HeadwordForm {
+  enum class Group { kMasculine, kFeminine, kNeuter, kPlural, kAdjective, kVerb };
+
+  std::string headword;
+  Group group = Group::kMasculine;
+  std::string ending;      // as the table writes it; empty for a form without ending
+  std::string word_class;  // "NF 1"
+};
+
+class KZL_API Inflector {
+ public:
+  // Loads a compiled table. Throws Error.
+  explicit Inflector(const std::string& path);
+  ~Inflector();
+  Inflector(Inflector&& other) noexcept;
+  Inflector& operator=(Inflector&& other) noexcept;
+
+  // Compiles the text of a table, UTF-8, into the file `path`, whose name ends in ".Dat", and puts
+  // the text in Windows-1251 beside it. Throws Error for a line that a reader would pass over or
+  // not understand.
+  static void compile(std::string_view text, const std::string& path,
+                      const std::string& name_of_text = {});
+  static void compile_file(const std::string& text_path, const std::string& path);
+
+  // The known endings of a word, the longest first. Case does not matter.
+  std::vector<Ending> endings(std::string_view word) const;
+
+  // The headwords to look for, the most likely first. Most of them are no words: a dictionary
+  // decides.
+  std::vector<HeadwordForm> headwords(std::string_view word) const;
+
+ private:
+  friend class Dictionary;
+  struct Table;
+  std::unique_ptr<Table> table_;
+};
+
+}  // namespace kz::lexicon
+
+#endif  // KZLEXICON_INFLECTOR_H

@@ -1,0 +1,120 @@
+// Source text: the UTF-8 form of a dictionary, one entry per line (docs/sources.md).
+//
+// Lines that are empty or begin with '*' are no entries. A line "*: name value" is a directive that
+// states a property of the dictionary. SourceReader takes such text apart, SourceWriter makes a
+// line of a plain entry, and source_line makes one of an entry of a dictionary.
+//
+//     using namespace kz::lexicon;
+//     const SourceText source = SourceReader().add("*: language ENRU\ncat*Nкот\n", "pets").take();
+//     std::cout << source.properties.language << ' ' << source.lines[0].text << '\n';
+//     SourceWriter writer("ENRU");
+//     std::cout << writer.lines({.headword = "bow", .part_code = "N",
+//                                .meanings = {{.synonyms = {"лук", "поклон (fig.)"}}}})[0] << '\n';
+//     // Output: ENRU cat*Nкот
+//     // Output: bow*Nлук;поклон {(fig.)}
+#ifndef KZLEXICON_SOURCE_H
+#define KZLEXICON_SOURCE_H
+
+#include <cstddef>
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kzlexicon/dictionary.h"
+#include "kzlexicon/error.h"
+#include "kzlexicon/export.h"
+
+namespace kz::lexicon {
+
+struct SourceLine {
+  std::size_t file = 0;  // index into SourceText::files
+  std::size_t line = 0;  // counted from 1
+  std::string text;      // UTF-8, not yet checked
+};
+
+// What directives state; empty where nothing is stated.
+struct Properties {
+  std::string language;
+  std::string type;
+  std::string title;
+  std::string label;
+};
+
+struct SourceText {
+  std::vector<std::string> files;
+  std::vector<SourceLine> lines;
+  Properties properties;
+
+  Place place(const SourceLine& line) const { return {files[line.file], line.line}; }
+};
+
+class KZL_API SourceReader {
+ public:
+  // Directives of other texts may repeat those of the first but not contradict them. Properties
+  // that are set here win over all directives. Throws Error, as the rest does.
+  explicit SourceReader(Properties stated = {});
+
+  SourceReader& add(std::string_view text, const std::string& name);
+  SourceReader& add(std::istream& text, const std::string& name);
+  SourceReader& add_file(const std::string& path);
+  SourceText take();
+
+ private:
+  Properties stated_;
+  SourceText source_;
+};
+
+// An entry in plain text, of which nothing is a mark of the format.
+struct PlainMeaning {
+  int number = 0;  // 0: without a number
+  std::string definition{};
+  std::vector<std::string> synonyms{};
+};
+
+struct PlainEntry {
+  std::string headword;
+  std::string part_code = "W";
+  std::string attribute{};  // tags without brackets
+  std::vector<PlainMeaning> meanings{};
+};
+
+// What a SourceWriter could not keep.
+struct Losses {
+  std::size_t characters = 0;   // written otherwise or dropped: the code page lacks them
+  std::size_t definitions = 0;  // too long, dropped
+  std::size_t synonyms = 0;     // empty after cleaning
+  std::size_t meanings = 0;     // without any synonym
+};
+
+class KZL_API SourceWriter {
+ public:
+  explicit SourceWriter(const std::string& language);
+  ~SourceWriter();
+  SourceWriter(SourceWriter&& other) noexcept;
+  SourceWriter& operator=(SourceWriter&& other) noexcept;
+
+  // The entry as source lines: several with the same headword when it does not fit one, none when
+  // no meaning is left of it.
+  std::vector<std::string> lines(const PlainEntry& entry);
+  const Losses& losses() const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+// The directives that state the properties of a dictionary.
+KZL_API std::string source_directives(const Header& header);
+
+struct ExactLine {
+  std::string text;   // UTF-8
+  bool exact = true;  // a build makes the same entry of it
+};
+// The source line of an entry. A headword that was stored in lower case has its spelling again.
+KZL_API ExactLine source_line(const Entry& entry, const Header& header);
+
+}  // namespace kz::lexicon
+
+#endif  // KZLEXICON_SOURCE_H
