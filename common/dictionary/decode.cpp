@@ -83,6 +83,7 @@ void Lookup::set_entry(std::string_view text) {
 // Searches leave the entry object alone; it takes the found entry when somebody asks for it.
 CDicEntry* Lookup::entry_object() {
   if (s_.entry_object_behind && s_.found) {
+    decode(kTextLevel);
     d_.entry_object_->SetFullEntry(d_.entry_);
     d_.entry_object_->Split();
     s_.entry_object_behind = false;

@@ -172,6 +172,7 @@ bool Lookup::take_packed(std::string_view before, const PackedRecord& record) {
   d_.record_start_ = record.stored.data();
   d_.record_end_ = record.stored.data() + record.stored.size();
   s_.next = record.end;
+  set_entry({});  // until it is decoded
   return true;
 }
 

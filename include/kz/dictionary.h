@@ -55,8 +55,9 @@ KZ_API void DicClose(CDic* dictionary);
  * memory for the shared text. A null handle finds nothing and leaves the error variable alone. */
 KZ_API const char* DicFind(CDic* dictionary, const char* word, int16_t search_mode, int16_t level);
 
-/* The record behind the one found last, decoded to the level; null at the end of the block that
- * the search covered, behind which the record found last stays the one that DicGetFound gives.
+/* The record after the one found last, decoded to the level (at level 0 the text of a packed record
+ * is empty, as with DicFind); null at the end of the block that the search covered, after which the
+ * record found last stays the one that DicGetFound gives.
  * Returns and errors as DicFind. */
 KZ_API const char* DicFindNext(CDic* dictionary, int16_t level);
 
@@ -75,8 +76,9 @@ KZ_API int16_t DicGetEntry(CDic* dictionary, char* buffer, int16_t search_mode);
 KZ_API int16_t DicOpenGetEntry(const char* path, char* buffer, int16_t search_mode);
 
 /* The dictionary's own entry object, in the language of the dictionary. The first call after a
- * search or DicFindNext splits the entry found, at the level it has then, into the object: ask anew
- * after each of them. It belongs to the dictionary. Null for a null handle. */
+ * search or DicFindNext splits the entry found into the object, at the level that it has then
+ * (level 0 becomes 1): ask anew after each of them. It belongs to the dictionary. Null for a null
+ * handle. */
 KZ_API CDicEntry* DicGetEntryHandler(CDic* dictionary);
 
 /* The path given to DicOpen, valid until the dictionary is closed; null for a null handle. */

@@ -375,11 +375,21 @@ TEST_F(SmallDictionary, OnlyANumberInsideTheSharedTextIsAReference) {
 }
 
 TEST_F(SmallDictionary, TheEntryObjectShowsTheFoundEntry) {
-  CDic* dictionary = open(3, {{"table", "N6\\\\Table"}, {"tent", "N0"}});
-  ASSERT_NE(DicFind(dictionary, "table", 0, 2), nullptr);
-  EXPECT_STREQ(DicEntryGetSrcWord(DicGetEntryHandler(dictionary), nullptr), "Table");
-  ASSERT_NE(DicFind(dictionary, "tent", 0, 2), nullptr);
-  EXPECT_STREQ(DicEntryGetInWord(DicGetEntryHandler(dictionary), nullptr), "tent");
+  for (const int packing : {2, 3}) {
+    CDic* dictionary = open(packing, {{"table", "N6\\\\Table"}, {"tax", "N0"}, {"tent", "N1"}});
+    const auto word = [&] { return DicEntryGetInWord(DicGetEntryHandler(dictionary), nullptr); };
+    for (int time = 0; time < 3; ++time) {  // read from the block, then from the table of headwords
+      ASSERT_NE(DicFind(dictionary, "table", 0, 2), nullptr);
+      EXPECT_STREQ(DicEntryGetSrcWord(DicGetEntryHandler(dictionary), nullptr), "Table");
+      ASSERT_NE(DicFind(dictionary, "tent", 0, 0), nullptr);
+      EXPECT_STREQ(word(), "tent");
+      // A step at level 0 does not show the text of the record before it.
+      ASSERT_NE(DicFind(dictionary, "table", 0, 2), nullptr);
+      EXPECT_STREQ(DicFindNext(dictionary, 0), packing == 3 ? "" : "tax*N0");
+      EXPECT_STREQ(word(), "tax");
+      EXPECT_STREQ(DicGetFound(dictionary, nullptr, 2), "tax*Nfirst");
+    }
+  }
 }
 
 TEST_F(SmallDictionary, LongRecordsAreCutToTheEntry) {
