@@ -13,8 +13,10 @@ CDicSysEntryIterator* CDicSysEntryIterator::OpenIterator(CDicSys* set, const cha
                                                          const char* from, const char* to,
                                                          int16_t value, const char* filter,
                                                          int16_t include) {
-  CloseIterator();
   CDic* const found = ChkDicInList(set, path);
+  // A dictionary of its own is left to the base, which first copies the texts: they may belong to
+  // that dictionary.
+  if (found_ != nullptr) CloseIterator();
   if (!CDicEntryIterator::OpenIterator(found, path, from, to, value, filter, include)) {
     return nullptr;
   }

@@ -63,8 +63,10 @@ int DicArrayAddPath(CDicSys* set, int16_t position, const char* direction, const
   if (set == nullptr || list == nullptr) return 0;
   ZCObArray* const array = direction != nullptr ? kz::array_of(*set, direction) : nullptr;
   if (array == nullptr) return -1;
+  // The list may be the path of a dictionary or a descriptor that is unloaded here.
+  const ZCString own_list(list);
   if (array->GetSize() > 0) kz::unload_array(*set, *array);
-  for (std::string_view rest = list; !rest.empty();) {
+  for (std::string_view rest(own_list); !rest.empty();) {
     const std::string_view token = kz::next_token(rest, kz::kTokenDelimiters);
     if (!token.empty()) kz::put_token(*array, position, token);
   }

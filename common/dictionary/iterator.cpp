@@ -34,11 +34,8 @@ class EntryWalk {
  public:
   explicit EntryWalk(CDicEntryIterator& iterator) : it_(iterator) {}
 
-  bool open(CDic* dictionary, const char* path, const char* from, const char* to);
-  void set_filter(const char* filter, std::int16_t include) {
-    it_.filter_ = filter;
-    it_.include_ = include;
-  }
+  bool open(CDic* dictionary, const char* path, const char* from, const char* to,
+            const char* filter, std::int16_t include);
   void close(bool borrowed);
 
   CDic* dictionary() const { return it_.dictionary_; }
@@ -52,7 +49,7 @@ class EntryWalk {
  private:
   enum class Verdict { kEnd, kSkip, kKeep };
 
-  void set_range(const char* to);
+  void set_range(bool has_end);
   char base_of(char letter) const {
     return static_cast<char>(kz_codr_base_member(letter, language()));
   }
@@ -65,18 +62,24 @@ class EntryWalk {
   CDicEntryIterator& it_;
 };
 
-bool EntryWalk::open(CDic* dictionary, const char* path, const char* from, const char* to) {
-  const bool given = dictionary != nullptr;
-  if (!given) dictionary = DicOpen(path, 0);
-  if (dictionary == nullptr) return false;
+bool EntryWalk::open(CDic* dictionary, const char* path, const char* from, const char* to,
+                     const char* filter, std::int16_t include) {
+  // The texts may belong to the dictionary that is closed here: its path, a record of it.
+  const ZCString own_path(path);
   copy_word(it_.from_, from);
   copy_word(it_.to_, to);
+  it_.filter_ = filter;
+  it_.include_ = include;
+  const bool given = dictionary != nullptr;
+  close(given && dictionary == it_.dictionary_);
+  if (!given) dictionary = DicOpen(own_path, 0);
+  if (dictionary == nullptr) return false;
   if (it_.from_[0] != 0 && !IndexCore(Lookup::index(*dictionary)).set_prefix(it_.from_)) {
     if (!given) DicClose(dictionary);
     return false;
   }
   it_.dictionary_ = it_.dictionary_copy_ = dictionary;
-  set_range(to);
+  set_range(to != nullptr);
   it_.counter_ = 0;
   it_.state_ = kOpened;
   it_.record_ = DicFind(dictionary, nullptr, 0, kResolved);
@@ -84,13 +87,13 @@ bool EntryWalk::open(CDic* dictionary, const char* path, const char* from, const
 }
 
 // Without a to word the range is one letter; an empty one leaves its end open.
-void EntryWalk::set_range(const char* to) {
+void EntryWalk::set_range(bool has_end) {
   const bool russian = *language() == 'R';
   const auto first_letter = russian ? static_cast<char>(U'а'_1251) : 'a';
   const auto last_letter = russian ? static_cast<char>(U'я'_1251) : 'z';
   it_.start_letter_ = it_.from_[0] != 0 ? it_.from_[0] : first_letter;
   it_.end_letter_ = it_.start_letter_;
-  if (to != nullptr) it_.end_letter_ = it_.to_[0] != 0 ? it_.to_[0] : last_letter;
+  if (has_end) it_.end_letter_ = it_.to_[0] != 0 ? it_.to_[0] : last_letter;
   it_.start_base_ = base_of(it_.start_letter_);
   it_.end_base_ = base_of(it_.end_letter_);
 }
@@ -168,10 +171,7 @@ CDicEntryIterator* CDicEntryIterator::OpenIterator(CDic* dictionary, const char*
                                                    const char* from, const char* to,
                                                    int16_t /*value*/, const char* filter,
                                                    int16_t include) {
-  CloseIterator(-1);
-  EntryWalk walk(*this);
-  walk.set_filter(filter, include);
-  return walk.open(dictionary, path, from, to) ? this : nullptr;
+  return EntryWalk(*this).open(dictionary, path, from, to, filter, include) ? this : nullptr;
 }
 
 void CDicEntryIterator::CloseIterator(intptr_t borrowed) {

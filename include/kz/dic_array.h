@@ -83,8 +83,9 @@ KZ_API void DicArrayParmStr(CDicSys* set, char* output);
  * separated by any run of the characters ; , ) blank and tab. What the array held before is
  * unloaded first. The text behind the last ':' is the mode, 0 when it is no number; so a path that
  * itself has a ':' needs its mode. Each descriptor is put at the position given: with anything but
- * -1 only the last one stays. Returns the index of the array's last descriptor, -1 when it is empty
- * and for a direction that does not exist; 0 for a null set or list. */
+ * -1 only the last one stays. The list may be a text of what is unloaded. Returns the index of the
+ * array's last descriptor, -1 when it is empty and for a direction that does not exist; 0 for a
+ * null set or list. */
 KZ_API int DicArrayAddPath(CDicSys* set, int16_t position, const char* direction, const char* list);
 
 /* --- Base dictionaries and chains ------------------------------------------------------------- */

@@ -109,7 +109,9 @@ class KZ_API CDicEntryIterator {
   /* CloseIterator(-1). */
   virtual ~CDicEntryIterator();
 
-  /* Closes the iterator when it is open and opens it anew. Returns the iterator, or null. */
+  /* Closes the iterator when it is open and opens it anew. Returns the iterator, or null. The texts
+   * may belong to the dictionary that is closed. An iterator that is given its own dictionary keeps
+   * it; when it cannot be opened, that dictionary is the caller's. */
   CDicEntryIterator* OpenIterator(CDic* dictionary, const char* path, const char* from,
                                   const char* to, int16_t value, const char* filter,
                                   int16_t include);

@@ -143,9 +143,16 @@ TEST_F(SetTest, AnArrayThatIsFilledAnewUnloadsItsDictionaries) {
   const std::string a = write("a.dic"), b = write("b.dic");
   DicArrayAddPath(set_, -1, "ENRU", (a + ":0").c_str());
   DicArrayLoad(set_, DicArraySelect(set_, nullptr), 1);
-  DicQueLoad(set_, -1, b.c_str(), 0);
+  CDic* const other = DicQueLoad(set_, -1, b.c_str(), 0);
   DicArrayAddPath(set_, -1, "ENRU", (b + ":0").c_str());
   EXPECT_EQ(loaded(), (Names{"b.dic"}));
+  // The list may be the path of a dictionary or a descriptor that goes.
+  ZCObArray& array = *DicArraySelect(set_, nullptr);
+  EXPECT_EQ(DicArrayAddPath(set_, -1, "ENRU", DicGetPath(other)), 0);
+  EXPECT_EQ(loaded(), Names{});
+  EXPECT_EQ(descriptors(array), (Names{b + ":0"}));
+  EXPECT_EQ(DicArrayAddPath(set_, -1, "ENRU", static_cast<const CDicArray*>(array[0])->path), 0);
+  EXPECT_EQ(descriptors(array), (Names{b + ":0"}));
 }
 
 TEST_F(SetTest, ParameterStringsReadBackAsTheArraysTheyWereWrittenFrom) {

@@ -138,6 +138,18 @@ TEST_F(SetTest, AnIteratorBorrowsTheLoadedDictionary) {
     EXPECT_STREQ(body, "b.dic");
     DicSysIteratorClose(iterator);
   }
+  // The texts may be those of the dictionary that is let go or closed.
+  CDicSysEntryIterator again;
+  for (const std::string& file : {other, path, other}) {
+    again.OpenIterator(set_, file.c_str(), nullptr, "", 0, nullptr, 0);
+    const char* const record = again.GetFirstEntry(word, code, body, nullptr, 0);
+    ASSERT_EQ(again.OpenIterator(set_, DicGetPath(again.GetDicHandler()), record, record, 0,
+                                 record + 4, 1),
+              &again);
+    EXPECT_EQ(again.GetDicHandler() == loaded, file == path);
+    EXPECT_NE(again.GetFirstEntry(word, code, body, nullptr, 0), nullptr);
+    EXPECT_EQ(file.substr(file.size() - 5), body);
+  }
   EXPECT_EQ(DicSysIteratorOpen(set_, path.c_str(), "!x", nullptr, 0, nullptr, 0), nullptr);
   EXPECT_STREQ(DicFind(loaded, "cat", 0, 2), "cat*Na.dic");
   EXPECT_EQ(DicSysIteratorOpen(set_, "/no/such.dic", nullptr, "", 0, nullptr, 0), nullptr);

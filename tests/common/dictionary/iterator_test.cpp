@@ -248,6 +248,32 @@ TEST_F(IteratorTest, WithoutAHeadwordASearchTakesTheFirstLetterOfTheRange) {
   DicClose(borrowed);
 }
 
+// The texts belong to the dictionary that opening again closes or keeps.
+TEST_F(IteratorTest, OpensAnewFromItsOwnDictionaryPathAndRecord) {
+  DictionaryFile file;
+  for (const char* word : {"apple", "bear", "bee", "cat"}) file.records.push_back({word, "Bx"});
+  file.write(path_);
+  CDicEntryIterator walker;
+  for (const bool by_handle : {true, false}) {
+    SCOPED_TRACE(by_handle);
+    ASSERT_NE(walker.OpenIterator(nullptr, path_.c_str(), "b", "c", 0, nullptr, 0), nullptr);
+    const char* const record = walker.GetFirstEntry(nullptr, nullptr, nullptr, nullptr, 0);
+    ASSERT_STREQ(record, "bear*Bx");
+    CDic* const own = walker.GetDicHandler();
+    ASSERT_EQ(walker.OpenIterator(by_handle ? own : nullptr, DicGetPath(own), record, record, 0,
+                                  record + 5, 1),
+              &walker);
+    EXPECT_TRUE(!by_handle || walker.GetDicHandler() == own);
+    EXPECT_EQ(walk(&walker, 0, "").size(), 2U);  // all of b
+  }
+  // A dictionary that cannot be walked so is the caller's again.
+  CDic* const own = walker.GetDicHandler();
+  EXPECT_EQ(walker.OpenIterator(own, nullptr, "!", nullptr, 0, nullptr, 0), nullptr);
+  EXPECT_EQ(walker.GetDicHandler(), nullptr);
+  EXPECT_STREQ(DicFind(own, "cat", 0, 2), "cat*Bx");
+  DicClose(own);
+}
+
 TEST_F(IteratorTest, MissingIteratorsAndFilesGiveNothing) {
   EXPECT_EQ(DicIteratorOpen(nullptr, "/no/such.dic", nullptr, "", 0, nullptr, 0), nullptr);
   EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FILE);
