@@ -71,23 +71,11 @@ class LetterRange {
   int last_;
 };
 
-// A word behind whose first letter no walk ends.
-std::string last_letter(const FileHeader& header) {
-  int last = 0;
-  const auto base = [&](int letter) {
-    return kz_codr_base_member(letter, header.language.c_str());
-  };
-  for (int letter = 1; letter < 256; ++letter) last = base(letter) > base(last) ? letter : last;
-  return std::string(1, static_cast<char>(last));
-}
-
-// The walk covers all letters: an iterator knows ranges in the order of the code page, in which a
-// letter such as œ does not stand where the dictionary has it.
-Iterator open_walk(const DumpOptions& options, const FileHeader& header) {
+Iterator open_walk(const DumpOptions& options) {
   const std::string codes = argument("part codes", options.codes, CodePage::kRussian);
   Dictionary dictionary = open_dictionary(options.dictionary, 0);
-  Iterator walk(DicIteratorOpen(dictionary.get(), nullptr, nullptr, last_letter(header).c_str(), 0,
-                                codes.c_str(), options.not_codes ? 0 : 1));
+  Iterator walk(DicIteratorOpen(dictionary.get(), nullptr, nullptr, "", 0, codes.c_str(),
+                                options.not_codes ? 0 : 1));
   if (!walk) throw Failure(Status::kFile, options.dictionary + ": not enough memory");
   static_cast<void>(dictionary.release());  // the walk closes it
   return walk;
@@ -100,7 +88,7 @@ void dump(const DumpOptions& options) {
   open_dictionary(options.dictionary, 0);  // tells a header that is not sound
   const FileHeader header = read_file_header(options.dictionary);
   const LetterRange range(header, options.from, options.to);
-  const Iterator walk = open_walk(options, header);
+  const Iterator walk = open_walk(options);
   const SourceWriter writer(header);
   std::cout << writer.directives();
   std::size_t bad = 0;

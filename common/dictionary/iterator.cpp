@@ -20,6 +20,8 @@ namespace {
 // The walk hands out whole records.
 constexpr std::int16_t kResolved = 2;
 
+constexpr int kWesternSize = 43;
+
 enum State : std::int16_t { kClosed = 0, kOpened = 1, kReading = 2 };
 
 void copy_word(char (&field)[80], const char* word) {
@@ -57,6 +59,7 @@ class EntryWalk {
   void find_start();
   const char* keep(const RecordOutputs& outputs);
   Verdict examine(const RecordOutputs& outputs);
+  bool is_after_end(char letter) const;
   bool passes_filter(char code) const;
 
   CDicEntryIterator& it_;
@@ -144,13 +147,26 @@ const char* EntryWalk::keep(const RecordOutputs& outputs) {
 
 EntryWalk::Verdict EntryWalk::examine(const RecordOutputs& outputs) {
   const std::string_view record = Lookup::entry(*it_.dictionary_);
-  const auto byte = [](char c) { return static_cast<unsigned char>(c); };
-  if (record.empty() || byte(base_of(record[0])) > byte(it_.end_base_)) return Verdict::kEnd;
+  if (record.empty() || is_after_end(record[0])) return Verdict::kEnd;
   const RecordParts parts(record);
   if (!passes_filter(parts.code)) return Verdict::kSkip;
   parts.copy_to(outputs);
   ++it_.counter_;
   return Verdict::kKeep;
+}
+
+// Whether the records that begin with the letter come after the range. The alphabet of 43 letters
+// is not in the order of the code page: é and œ lie after z there. What is no letter of it stands
+// before them all.
+bool EntryWalk::is_after_end(char letter) const {
+  const auto place = [&](char c) {
+    if (Lookup::alphabet_size(*it_.dictionary_) != kWesternSize) {
+      return int{static_cast<unsigned char>(c)};
+    }
+    const int slot = lat_abc_index(c);
+    return slot == kWesternSize ? -1 : slot;
+  };
+  return place(base_of(letter)) > place(it_.end_base_);
 }
 
 bool EntryWalk::passes_filter(char code) const {

@@ -70,6 +70,7 @@ class Lookup {
   static std::uint8_t& mode(CDic& dictionary) { return dictionary.mode_; }
   static std::uint16_t& id(CDic& dictionary) { return dictionary.id_; }
   static const char* language(const CDic& dictionary) { return dictionary.language_; }
+  static int alphabet_size(const CDic& dictionary) { return dictionary.alphabet_size_; }
   static char type(const CDic& dictionary) { return dictionary.type_[0]; }
   static std::int32_t modification_time(const CDic& dictionary) {
     return dictionary.modification_time_;

@@ -39,7 +39,9 @@ typedef CDicEntryIterator CDicSysEntryIterator;
  * 0. from, to: the range of first letters. It begins with the first letter of the from word, with
  * the alphabet when that is null or empty; it ends with the first letter of the to word, with the
  * alphabet when that is empty, with the range's first letter when it is null. Letters that differ
- * in their accent only are one (kz_codr_base_member). value: has no effect. filter: a text of code
+ * in their accent only are one (kz_codr_base_member). Letters are compared by their codes, those of
+ * an alphabet of 43 letters by their places in it; what is no letter of that stands before all
+ * letters. value: has no effect. filter: a text of code
  * characters, null or empty for no filter; include: not 0 keeps the records whose code character is
  * in the filter, 0 those whose code character is not. */
 KZ_API CDicEntryIterator* DicIteratorOpen(CDic* dictionary, const char* path, const char* from,
