@@ -14,9 +14,6 @@
 namespace kz {
 namespace {
 
-// Flag in the mode of a dictionary that a refill clears.
-constexpr std::uint8_t kModeFlag = 128;
-
 std::string_view directory_of(const CDicSys& set) {
   return set.directory != nullptr ? set.directory : "";
 }

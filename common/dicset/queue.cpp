@@ -30,12 +30,10 @@ int DicQueClearIfChanged(CDicSys* set, const char* language) {
 
 CDic* DicSetMode(CDicSys* set, CDic* dictionary, int16_t mode) {
   constexpr int16_t kSameMode = 5;
-  constexpr int16_t kFlag = 128;
   if (set == nullptr || dictionary == nullptr) return nullptr;
   const int16_t present = DicGetMode(dictionary);
-  if (mode == present) return dictionary;
-  if (mode == kFlag) {
-    kz::Lookup::mode(*dictionary) |= kFlag;
+  if (mode == kz::kModeFlag || kz::same_open_mode(mode, present)) {
+    kz::Lookup::mode(*dictionary) |= static_cast<uint8_t>(mode & kz::kModeFlag);
     return dictionary;
   }
   if (mode == kSameMode) mode = present;

@@ -202,9 +202,10 @@ void CDicIndex::Free() {
 }
 
 std::uint16_t CDicIndex::Write(ZCFile& file) {
-  const bool written = depth_ == 5
-                           ? kz::write_entries(file, key_records_, table_size_ / kz::kRecordSize)
-                           : kz::write_entries(file, offset_table_, table_size_ / kz::kCellSize);
+  const bool made = key_records_ != nullptr || offset_table_ != nullptr;
+  const bool written =
+      made && (depth_ == 5 ? kz::write_entries(file, key_records_, table_size_ / kz::kRecordSize)
+                           : kz::write_entries(file, offset_table_, table_size_ / kz::kCellSize));
   if (!written) return kz::set_error(DIC_ERR_FILE);
   return DIC_OK;
 }

@@ -83,7 +83,8 @@ std::int16_t Queue::list_of(const CDic& dictionary) const {
 bool Queue::unload(const char* path, std::int16_t mode) {
   CDic* const dictionary = named(GetFileName(path));
   if (dictionary == nullptr) return true;
-  const bool may_keep = mode != 0 && (mode == DicGetMode(dictionary) || mode == kKeepUnchanged);
+  const bool may_keep =
+      mode != 0 && (same_open_mode(mode, DicGetMode(dictionary)) || mode == kKeepUnchanged);
   if (may_keep && !has_changed(*dictionary)) return false;
   for (std::int16_t list = 0; list < kListCount; ++list) {
     remove(list, dictionary);

@@ -20,6 +20,10 @@ enum List : std::int16_t {
   kOtherChainList = 5,
 };
 
+// A flag in the mode of a dictionary, no part of how it was opened.
+inline constexpr std::int16_t kModeFlag = 128;
+inline bool same_open_mode(int a, int b) { return (a & ~kModeFlag) == (b & ~kModeFlag); }
+
 // The lists are arrays of objects that hold dictionaries, which are no objects.
 inline CDic* dictionary_at(const ZCObArray& list, int index) {
   return reinterpret_cast<CDic*>(list.GetAt(index));

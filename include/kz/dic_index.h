@@ -139,7 +139,7 @@ class KZ_API CDicIndex {
   void Free();
 
   // Writes the index at the file's current position. Returns 0, or 195 when it cannot be written
-  // in full.
+  // in full or there is none: after a failed Init, and after Free.
   uint16_t Write(ZCFile& file);
 
   // Sets the access letter: while it is 'R', making the index anew also empties the block cache.

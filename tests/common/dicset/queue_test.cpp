@@ -346,14 +346,26 @@ TEST_F(QueueTest, PathsAreComparedAsOemTextInAnyCase) {
 }
 
 TEST_F(QueueTest, TheModeFlagReopensNothing) {
-  CDic* const loaded = DicQueLoad(set_, -1, simple("a.dic").c_str(), 2);
-  EXPECT_EQ(DicSetMode(set_, loaded, 128), loaded);
-  EXPECT_EQ(DicGetMode(loaded), 130);
+  const std::string path = simple("a.dic");
+  CDic* const loaded = DicQueLoad(set_, -1, path.c_str(), 2);
+  // 2 and 130 are one open mode.
+  const int16_t steps[][2] = {{2, 2}, {128, 130}, {2, 130}, {130, 130}};
+  for (const auto& [mode, result] : steps) {
+    EXPECT_EQ(DicSetMode(set_, loaded, mode), loaded);
+    EXPECT_EQ(DicGetMode(loaded), result);
+  }
   DicQueFirst(set_, 1, 0);
   EXPECT_NE(DicQueFind(set_, 1, "cat", 0, 2), nullptr);
-  CDic* const reopened = DicSetMode(set_, loaded, 2);
+  for (const int16_t mode : {int16_t{2}, int16_t{130}, int16_t{6}}) {
+    EXPECT_EQ(DicQueLoad(set_, -1, path.c_str(), mode), nullptr);
+    EXPECT_EQ(DicQueUnLoad(set_, path.c_str(), mode), 0);
+  }
+  CDic* reopened = DicSetMode(set_, loaded, 5);
   ASSERT_NE(reopened, nullptr);
-  EXPECT_EQ(DicGetMode(reopened), 2);
+  EXPECT_EQ(DicGetMode(reopened), 130);
+  reopened = DicSetMode(set_, reopened, 4);
+  ASSERT_NE(reopened, nullptr);
+  EXPECT_EQ(DicGetMode(reopened), 4);
   std::filesystem::remove(dir_.file("a.dic"));
   EXPECT_EQ(DicSetMode(set_, reopened, 0), nullptr);
   EXPECT_EQ(DicQueGetSize(set_, 0), 0);

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "kz/dic_error.h"
 #include "kz/dic_index.h"
 #include "kz/file.h"
 #include "tests/common/dictionary/scratch_file.h"
@@ -263,6 +264,15 @@ TEST(IndexImage, AFailedWriteIsReported) {
   CDicIndex index('R');
   ASSERT_EQ(index.Init(0, "EN", "C", 26, 0, 2, 0, 0, 0), 1);
   EXPECT_EQ(index.Write(reader), 195);
+
+  // An index that could not be made is not written either.
+  ZCFile writer;
+  ASSERT_TRUE(writer.Open(ScratchFile().path(), 0x1002));
+  EXPECT_EQ(index.Write(writer), 0);
+  ASSERT_EQ(index.Init(0, "EN", "C", 27, 0, 2, 0, 0, 0), 0);
+  EXPECT_EQ(index.Write(writer), 195);
+  EXPECT_EQ(kz_dict_dic_errno(), 195);
+  EXPECT_EQ(CDicIndex('R').Write(writer), 195);
 }
 
 }  // namespace
