@@ -62,8 +62,10 @@ struct DictionaryFile {
   int alphabet_size = 26;
   int version = 600;
   int packing = 0;
-  bool fresh_groups = true;  // packed: front coding starts afresh in every group
-  std::string shared;        // texts, each with its zero
+  bool fresh_groups = true;     // packed: front coding starts afresh in every group
+  std::size_t shared_max = 63;  // packed: characters that a record takes over at most
+  std::string end_pair_before;  // packed: the word in front of which the pair 0, 26 stands
+  std::string shared;           // texts, each with its zero
   std::vector<Record> records;
 
   bool packed() const { return version >= 539 && (packing == 1 || packing == 3); }
@@ -102,10 +104,11 @@ struct DictionaryFile {
       if (packed()) {
         if (opens && fresh_groups) previous.clear();
         std::size_t count = 0;
-        while (count < 63 && count < text.size() && count < previous.size() &&
+        while (count < shared_max && count < text.size() && count < previous.size() &&
                text[count] == previous[count]) {
           ++count;
         }
+        if (record.word == end_pair_before) out += std::string("\0\x1A", 2);
         out += static_cast<char>(count);
         for (const char c : text.substr(count)) out += static_cast<char>(c ^ '\x80');
         previous = text;

@@ -257,6 +257,15 @@ TEST(IndexImage, UnknownShapesAreRefused) {
   EXPECT_EQ(index.Init(0, "RU", "C", 32, 0, 2, 0, 0, -1), 1) << "no key records";
 }
 
+TEST(IndexImage, TheAccessLetterIsKept) {
+  CDicIndex index('R');
+  // Behind the pointer to the virtual functions and the 16 bits of the access mode.
+  const char& letter = reinterpret_cast<const char*>(&index)[sizeof(void*) + 2];
+  EXPECT_EQ(letter, 'R');
+  index.SetAccessMode('W');
+  EXPECT_EQ(letter, 'W');
+}
+
 TEST(IndexImage, AFailedWriteIsReported) {
   const ScratchFile scratch(Bytes(10));
   ZCFile reader;
