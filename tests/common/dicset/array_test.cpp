@@ -63,16 +63,38 @@ TEST_F(SetTest, DictionariesAreLookedForInThreePlaces) {
   DicArrayUnLoad(set_, array);
   EXPECT_EQ(loaded(), Names{});
   EXPECT_EQ(array->GetSize(), 0);
+
+  // A path with either separator is taken as it is, a mere name lies in the directory of the set.
+  const std::string named = write("c.dic");
+  std::filesystem::create_directory("sub");
+  for (const char* here : {"c.dic", "sub/d.dic", "back\\e.dic"}) {
+    std::filesystem::copy_file(named, here);
+    DicArraySet(set_, -1, here, 0, 1);
+  }
+  EXPECT_EQ(DicArrayLoad(set_, array, 1), 0);
+  DicArrayUpdate(set_);
+  EXPECT_EQ(descriptors(*array), (Names{named + ":0", "sub/d.dic:0", "back\\e.dic:0"}));
   std::filesystem::current_path(before);
 }
 
 TEST_F(SetTest, PathsTooLongForAPlaceAreReportedLikeMissingOnes) {
-  CDicSys* const far = DicSysOpen(0, "ENRU", std::string(255, 'd').c_str());
-  DicArraySet(far, -1, "a.dic", 0, 1);  // completed when it is loaded
-  EXPECT_EQ(DicArraySet(far, -1, "a.dic", 0, 0), -1);
-  EXPECT_EQ(DicArrayLoad(far, DicArraySelect(far, nullptr), 1), 1);
+  // The files are there, "a.dic" at a path of 259 characters.
+  const std::string deep = std::string(253 - directory_.size(), 'd') + '/';
+  std::filesystem::create_directory(directory_ + deep);
+  for (const char* name : {"a.dic", "ab.dic"}) write(deep + name);
+  CDicSys* const far = DicSysOpen(0, "ENRU", (directory_ + deep).c_str());
+  ZCObArray* const array = DicArraySelect(far, nullptr);
+  EXPECT_EQ(DicArraySet(far, -1, "ab.dic", 0, 0), -1);
+  EXPECT_EQ(array->GetSize(), 0);
+  // Completed when they are loaded.
+  const std::pair<const char*, int> cases[] = {
+      {"a.dic", 0}, {"ab.dic", 1}, {"/no/a.dic", 0}, {"/no/ab.dic", 1}};
+  for (const auto& [name, missing] : cases) {
+    EXPECT_EQ(DicArraySet(far, 0, name, 0, 1), 0);
+    EXPECT_EQ(DicArrayLoad(far, array, 1), missing) << name;
+  }
   DicSysLoadCommon(far);
-  for (const ZCObArray& array : far->directions) EXPECT_EQ(array.GetSize(), 0);
+  for (const ZCObArray& direction : far->directions) EXPECT_EQ(direction.GetSize(), 0);
   DicSysClose(far);
 }
 
@@ -245,7 +267,8 @@ TEST_F(SetTest, AChainSavesLists5And4AndLoadsThemAgain) {
   join(4, ru);
   join(5, en);
   DicQueLoad(set_, -1, write("other.dic").c_str(), 0);
-  EXPECT_EQ(DicQueUpdateSpellDicChain(set_), -1);
+  // What a chain held before is not kept.
+  for (int time = 0; time < 2; ++time) EXPECT_EQ(DicQueUpdateSpellDicChain(set_), -1);
   EXPECT_EQ(descriptors(set_->spell_chain[0]), (Names{en + ":0"}));
   EXPECT_EQ(descriptors(set_->spell_chain[1]), (Names{ru + ":0"}));
   set_->queue.lists[4].RemoveAll();
@@ -253,6 +276,7 @@ TEST_F(SetTest, AChainSavesLists5And4AndLoadsThemAgain) {
   EXPECT_EQ(descriptors(set_->thesaurus_chain[0]), (Names{en + ":0"}));
   EXPECT_EQ(set_->thesaurus_chain[1].GetSize(), 0);
 
+  join(4, write("more.dis", "RU", 'S'));  // a dictionary of the other chain goes
   EXPECT_EQ(DicQueLoadSpellDicChain(set_), 0);
   EXPECT_EQ(loaded(), (Names{"other.dic", "en.dis", "ru.dis"}));
   EXPECT_EQ(DicQueGetSize(set_, 4) + DicQueGetSize(set_, 5), 0);

@@ -109,6 +109,56 @@ TEST(Entry, TakesDecorationsOffASynonym) {
   EXPECT_STREQ(shared, U"a)слово"_1251.data()) << "other holders of the text keep it";
 }
 
+TEST(Entry, TellsGrammarCodesFromLetters) {
+  const struct {
+    const char* language;
+    char kind, part;
+    std::string_view codes;  // of all that follow, those that open a group of synonyms
+  } cases[] = {
+      {"ENRU", 'c', 'N', "AzA1"},  {"DERU", 'C', 'V', "AzA1"},
+      {"RUDE", 'c', 'N', "AA)A1"}, {"RUEN", 'C', 'N', U"AA)A1ДД)"_1251},
+      {"ENRU", 'S', 'N', ""},      {"ENRU", 'c', 'W', ""},
+      {"ENRU", 'c', 'w', ""},      {"RU", 'c', 'N', ""},
+      {"", 'C', 'N', ""},
+  };
+  for (const auto& c : cases) {
+    CDicEntry entry(c.language, c.kind);
+    entry.Build("w", c.part, "", nullptr);
+    std::string codes;
+    for (const std::string_view at :
+         {std::string_view("A"), std::string_view("z"), std::string_view("A)"),
+          std::string_view("A1"), std::string_view(U"Д"_1251), std::string_view(U"Д)"_1251),
+          std::string_view(U"Д1"_1251), std::string_view("1"), std::string_view("")}) {
+      const int code = entry.IsSynPartCode(at.data());
+      if (code != 0) codes += at;
+      EXPECT_TRUE(code == 0 || code == static_cast<unsigned char>(at[0])) << at;
+    }
+    EXPECT_EQ(codes, c.codes) << c.language << c.kind << c.part;
+    EXPECT_EQ(entry.IsSynPartCode(nullptr), 0);
+  }
+  const std::pair<const char*, std::string_view> targets[] = {
+      {"ENRU", "Az"}, {"RUEN", "A"}, {"RUDE", "A"}, {"ENFR", ""}, {"RU", ""}, {nullptr, ""}};
+  for (const auto& [language, codes] : targets) {
+    const CDicEntryMeaning meaning("1.", "", "", "a;b", language, 'c');
+    for (const char c : std::string_view(U"Az1;Дд"_1251)) {
+      const bool is = codes.find(c) != std::string_view::npos;
+      EXPECT_EQ(meaning.IsTargetCode(c), is ? static_cast<unsigned char>(c) : 0) << language << c;
+    }
+  }
+}
+
+TEST(Entry, ASetBodyIsJoinedAndKeepsTheMeanings) {
+  CDicEntry entry("ENRU");
+  entry.Build("w", 'N', "1.a/2.b", nullptr);
+  entry.SetEntry("c");
+  EXPECT_STREQ(entry.GetEntry(nullptr), "c");
+  EXPECT_EQ(entry.GetMeaningsSize(), 2);
+  entry.Merge();
+  EXPECT_STREQ(entry.GetFullEntry(nullptr), "w*Nc\\\\w");
+  entry.SetEntry(nullptr);
+  EXPECT_STREQ(entry.GetEntry(nullptr), "");
+}
+
 TEST(Entry, MayBeBuiltFromItsOwnTexts) {
   CDicEntry entry("ENRU");
   entry.Build("table*N1.a/2.b\\ref\\\\Table", 0, nullptr, nullptr);
