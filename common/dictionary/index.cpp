@@ -5,6 +5,7 @@
 #include <array>
 #include <bit>
 #include <cstring>
+#include <memory>
 #include <new>
 #include <span>
 
@@ -12,6 +13,7 @@
 #include "dictionary/index_letters.h"
 #include "dictionary/index_order.h"
 #include "dictionary/index_shape.h"
+#include "dictionary/index_table.h"
 #include "dictionary/little_endian.h"
 #include "kz/file.h"
 
@@ -117,11 +119,15 @@ std::uint16_t IndexCore::read(ZCFile& file) {
   }
   for (std::int32_t& cell : std::span(x_.offset_table_, x_.table_size_ / kCellSize)) decode(cell);
   try {
-    note_groups(x_.offset_table_, IndexShape{x_.alphabet_size_, x_.depth_ == 3}, *x_.state_);
+    note_groups(x_.offset_table_, IndexShape{x_.alphabet_size_, x_.depth_ == 3}, *state());
   } catch (const std::bad_alloc&) {
     return DIC_ERR_MEMORY;
   }
   return DIC_OK;
+}
+
+IndexState* IndexCore::state() const {
+  return x_.depth_ == 5 ? state_of(x_.key_records_) : state_of(x_.offset_table_);
 }
 
 void IndexCore::reset() {
@@ -159,16 +165,17 @@ int CDicIndex::Init(std::int16_t access_mode, const char* language, const char* 
   if (!kz::is_known(depth, alphabet_size, record_count)) return 0;
 
   const std::size_t entries = kz::entry_count(depth, alphabet_size, record_count);
-  state_ = new (std::nothrow) kz::IndexState(language_[0], *kz::find_alphabet(alphabet_size));
+  std::unique_ptr<kz::IndexState> state(
+      new (std::nothrow) kz::IndexState(language_[0], *kz::find_alphabet(alphabet_size)));
+  if (state == nullptr) return 0;
   if (depth == 5) {
-    key_records_ = new (std::nothrow) kz::KeyRecord[entries + 1]();
+    key_records_ = kz::new_table<kz::KeyRecord>(entries + 1, state.get());
+    if (key_records_ != nullptr) std::fill_n(key_records_, entries + 1, kz::KeyRecord{});
   } else {
-    offset_table_ = new (std::nothrow) std::int32_t[entries + 1];
+    offset_table_ = kz::new_table<std::int32_t>(entries + 1, state.get());
   }
-  if (state_ == nullptr || (key_records_ == nullptr && offset_table_ == nullptr)) {
-    Free();
-    return 0;
-  }
+  if (key_records_ == nullptr && offset_table_ == nullptr) return 0;
+  state.release();  // NOLINT(bugprone-unused-return-value): the table has it
   record_count_ = record_count;
   table_size_ =
       static_cast<std::uint32_t>(entries * (depth == 5 ? kz::kRecordSize : kz::kCellSize));
@@ -185,15 +192,14 @@ int CDicIndex::Init(std::int16_t access_mode, const char* language, const char* 
 }
 
 void CDicIndex::Free() {
-  delete[] offset_table_;
+  delete kz::IndexCore(*this).state();  // with the cached blocks
+  kz::delete_table(offset_table_);
+  kz::delete_table(key_records_);
   delete[] block_cache_;
-  delete[] key_records_;
-  delete state_;  // with the cached blocks
   offset_table_ = nullptr;
   block_cache_ = nullptr;
   key_records_ = nullptr;
   found_record_ = nullptr;
-  state_ = nullptr;
   found_position_ = -1;
   record_count_ = 0;
   record_capacity_ = 0;

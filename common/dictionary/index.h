@@ -12,6 +12,7 @@
 namespace kz {
 
 class Block;
+struct IndexState;
 
 // One record of a depth-5 index: the first five characters as a number, and the position of the
 // first headword that begins with them.
@@ -97,6 +98,9 @@ class IndexCore {
 
  private:
   friend class ::CDicIndex;
+
+  // What the library keeps for the index; null without a table.
+  IndexState* state() const;
 
   void reset();
   void enter_in_table(std::int32_t position, const char* word);

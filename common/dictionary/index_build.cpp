@@ -1,12 +1,12 @@
 // CDicIndex: entering records as a dictionary is written.
 #include <algorithm>
-#include <new>
 
 #include "dictionary/error.h"
 #include "dictionary/index.h"
 #include "dictionary/index_key.h"
 #include "dictionary/index_letters.h"
 #include "dictionary/index_shape.h"
+#include "dictionary/index_table.h"
 #include "kz/file.h"
 
 namespace kz {
@@ -91,10 +91,10 @@ void IndexCore::enter_key(std::int32_t position, const char* word) {
 
 bool IndexCore::grow_records() {
   const std::int32_t capacity = x_.record_count_ + kGrowth;
-  auto* records = new (std::nothrow) KeyRecord[static_cast<std::size_t>(capacity)]();
+  auto* const records = new_table<KeyRecord>(static_cast<std::size_t>(capacity), state());
   if (records == nullptr) return false;
   std::copy_n(x_.key_records_, x_.record_count_, records);
-  delete[] x_.key_records_;
+  delete_table(x_.key_records_);
   x_.key_records_ = records;
   x_.found_record_ = nullptr;
   x_.record_capacity_ = capacity;

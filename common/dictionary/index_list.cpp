@@ -24,7 +24,7 @@ bool IndexCore::select_rank(std::size_t from) {
   x_.found_position_ = -1;
   if (x_.offset_table_ == nullptr) return false;
   const IndexShape shape{x_.alphabet_size_, x_.depth_ == 3};
-  while (const auto rank = x_.state_->groups.next_rank(from)) {
+  while (const auto rank = state()->groups.next_rank(from)) {
     const Slots s = shape.slots_of_rank(*rank);
     const std::int32_t position = x_.offset_table_[shape.cell(s)];
     if (inside_records(position, x_.index_offset_)) {
@@ -62,7 +62,7 @@ std::size_t IndexCore::count_letter_groups() {
 
 bool IndexCore::in_letter_group(const char* word) const {
   if (x_.depth_ == 5) return true;
-  const Alphabet& alphabet = x_.state_->alphabet;
+  const Alphabet& alphabet = state()->alphabet;
   for (int i = 0; i < x_.depth_; ++i) {
     if (alphabet.slot(word[i]) == alphabet.size) return false;  // so is the end of the word
   }

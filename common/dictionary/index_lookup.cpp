@@ -23,7 +23,7 @@ std::int32_t distance(std::int64_t from, std::int64_t to) {
 }  // namespace
 
 bool IndexCore::read_prefix(const char* word, char (&prefix)[6]) const {
-  const auto role_of = [this](char c) { return x_.state_->roles[static_cast<std::uint8_t>(c)]; };
+  const auto role_of = [this](char c) { return state()->roles[static_cast<std::uint8_t>(c)]; };
   const bool keys = x_.depth_ == 5;
   const std::size_t places = keys ? kKeyLength : x_.depth_ == 3 ? 3 : 2;
   std::memset(prefix, 0, sizeof prefix);
@@ -39,14 +39,14 @@ bool IndexCore::read_prefix(const char* word, char (&prefix)[6]) const {
 
 bool IndexCore::set_prefix(const char* word) {
   char prefix[6];
-  if (word == nullptr || x_.state_ == nullptr || !read_prefix(word, prefix)) return false;
+  if (word == nullptr || state() == nullptr || !read_prefix(word, prefix)) return false;
   std::memcpy(x_.prefix_, prefix, sizeof prefix);
   return true;
 }
 
 // The cell of the prefix; a first slot of n when the table is empty.
 Slots IndexCore::find_slots() const {
-  const Alphabet& alphabet = x_.state_->alphabet;
+  const Alphabet& alphabet = state()->alphabet;
   const IndexShape shape{alphabet.size, x_.depth_ == 3};
   const int n = alphabet.size;
   Slots s{alphabet.slot(x_.prefix_[0]), n, n};
@@ -123,10 +123,10 @@ std::int32_t IndexCore::size_at(const Slots& s, std::int32_t position) const {
   if (s[2] == kWidened) {
     const std::size_t start =
         row_head ? shape.pair_rank({s[0] + 1, shape.n, shape.n}) : shape.pair_rank(s) + 1;
-    next = x_.state_->pair_heads.first_greater(start, position);
+    next = state()->pair_heads.first_greater(start, position);
   } else {
     const std::size_t start = row_head ? shape.row_rank(s[0] + 1) : shape.rank(s) + 1;
-    next = x_.state_->groups.first_greater(start, position);
+    next = state()->groups.first_greater(start, position);
   }
   return distance(position, std::min(next.value_or(x_.index_offset_), x_.index_offset_));
 }
@@ -146,11 +146,11 @@ Block* IndexCore::put_block(std::unique_ptr<Block> block) {
   Block** cell = cache_cell();
   if (cell == nullptr) return nullptr;
   try {
-    x_.state_->blocks.push_back(std::move(block));
+    state()->blocks.push_back(std::move(block));
   } catch (const std::bad_alloc&) {
     return nullptr;
   }
-  *cell = x_.state_->blocks.back().get();
+  *cell = state()->blocks.back().get();
   if (x_.depth_ == 5) return *cell;
 
   // A head that begins at the same position and ends where the group ends has the same block. (The

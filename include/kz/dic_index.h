@@ -111,7 +111,6 @@ KZ_API void PrintAllOffsets(CDic* dictionary, ZCFile* file);
 namespace kz {
 class Block;
 class IndexCore;
-struct IndexState;
 struct KeyRecord;
 }  // namespace kz
 
@@ -177,7 +176,6 @@ class KZ_API CDicIndex {
   int32_t record_capacity_ = 0;
   uint32_t table_size_ = 0;
   uint32_t cache_size_ = 0;
-  kz::IndexState* state_ = nullptr;
 };
 #endif
 
