@@ -40,15 +40,6 @@ inline constexpr std::size_t kSharedOffset = offsetof(DicHeader, SharedOffset);
 inline constexpr std::size_t kIndexCount = offsetof(DicHeader, IndexCount);
 inline constexpr std::size_t kSharedSize = offsetof(DicHeader, SharedSize);
 
-// The layout is the file format: these numbers never change.
-static_assert(sizeof(DicHeader) == kHeaderSize);
-static_assert(kSignature == 0 && kLabel == 48 && kLanguage == 56 && kType == 61 && kTitle == 63);
-static_assert(kReserved1 == 103 && kPassword == 104 && kProperty == 112 && kFormatVersion == 113);
-static_assert(kIndexDepth == 115 && kAlphabetSize == 117 && kIndexOffset == 119);
-static_assert(kDataOffset == 123 && kFileSize == 127 && kTimeStamp == 131 && kReserved2 == 135);
-static_assert(kChecksum == 139 && kPacking == 141 && kSharedOffset == 142);
-static_assert(kIndexCount == 146 && kSharedSize == 150);
-
 }  // namespace layout
 
 }  // namespace kz

@@ -13,8 +13,6 @@
 using kz::entry::assign;
 using kz::entry::view;
 
-static_assert(sizeof(void*) != 4 || sizeof(CDicEntry) == 100);
-
 namespace {
 
 void delete_all(ZCObArray& objects) {

@@ -8,8 +8,6 @@
 
 using kz::entry::view;
 
-static_assert(sizeof(void*) != 4 || sizeof(CDicEntryMeaning) == 48);
-
 namespace {
 
 kz::entry::CodeLetterTest code_test(const char* language) {

@@ -7,8 +7,6 @@
 #include <iterator>
 #include <optional>
 
-static_assert(sizeof(CGenId) == 256);
-
 CGenId::CGenId() : pools_of_id{} {}
 
 std::int16_t CGenId::GetId(std::uint8_t mask) {

@@ -2,7 +2,6 @@
 #include "kz/dic_set.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -15,23 +14,6 @@
 
 namespace kz::test {
 namespace {
-
-// Offsets in a class with virtual functions are what the compiler lays out in practice.
-#pragma GCC diagnostic ignored "-Winvalid-offsetof"
-constexpr std::size_t P = sizeof(void*);
-static_assert(offsetof(CDicSys, buffer_flag) == P);
-static_assert(offsetof(CDicSys, language) == P + 1);
-static_assert(offsetof(CDicSys, operation_code) == P + 6);
-static_assert(offsetof(CDicSys, g_buffer) == P + 8);
-static_assert(offsetof(CDicSys, directory) == 4 * P + 8);
-static_assert(offsetof(CDicSys, queue) == 5 * P + 8);
-static_assert(offsetof(CDicSys, queue.list_dictionary) == offsetof(CDicSys, queue) + P);
-static_assert(offsetof(CDicSys, queue.lists) == offsetof(CDicSys, queue) + 15 * P);
-static_assert(offsetof(CDicSys, current_array) ==
-              offsetof(CDicSys, queue) + 15 * P + 6 * sizeof(ZCObArray) + (P == 4 ? 12 : 16));
-static_assert(sizeof(CDicSys) == offsetof(CDicSys, current_array) + P + 10 * sizeof(ZCObArray));
-static_assert(offsetof(CDicArray, loaded) == P && offsetof(CDicArray, mode) == 3 * P);
-static_assert(sizeof(CDicArray) == 4 * P);
 
 std::string bytes_of(const std::string& path) {
   std::ostringstream out;

@@ -32,9 +32,6 @@ Record record_of(const Array& array) {
   return record;
 }
 
-static_assert(sizeof(void*) != 4 || (sizeof(ZCByteArray) == 16 && sizeof(ZCStringArray) == 16 &&
-                                     sizeof(ZCObArray) == 20));
-
 // Elements are numbered from 0, the zero element (the empty string).
 std::array<ZCObject, 256> objects;
 

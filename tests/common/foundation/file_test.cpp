@@ -48,9 +48,6 @@ TEST(FileLayout, VirtualFunctionsStandInTheirSlots) {
     EXPECT_EQ(slots[i], i + 2);  // two destructors come first
 }
 
-static_assert(sizeof(ZCFile) == 2 * sizeof(void*) + 8);
-static_assert(sizeof(ZCFileStatus) == 280);
-
 TEST_F(FileTest, CreationFlagsDecideOverExistingAndMissingFiles) {
   struct Case {
     unsigned flags;

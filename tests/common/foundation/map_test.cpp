@@ -30,7 +30,6 @@ struct Record {
   std::int32_t block_size;
 };
 static_assert(sizeof(ZCMapStringToOb) == sizeof(Record));
-static_assert(sizeof(void*) != 4 || sizeof(ZCMapStringToOb) == 28);
 
 Record record_of(const ZCMapStringToOb& map) {
   Record record;

@@ -16,9 +16,6 @@
 
 using namespace std::string_literals;
 
-static_assert(sizeof(ZCString) == sizeof(char*));
-static_assert(sizeof(ZCStringData) == 16);
-
 namespace {
 
 const ZCStringData& header(const ZCString& text) {

@@ -12,9 +12,6 @@
 
 namespace {
 
-static_assert(sizeof(SYSTEMTIME) == 16 && sizeof(FILETIME) == 8);
-static_assert(sizeof(ZCTime) == 4 && sizeof(ZCTimeSpan) == 4);
-
 constexpr std::int32_t first_count = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t last_count = std::numeric_limits<std::int32_t>::max();
 

@@ -8,11 +8,6 @@
 
 namespace {
 
-static_assert(sizeof(GRAMINFO) == 28 && alignof(GRAMINFO) == 4);
-static_assert(sizeof(SEMANTICS) == 4);
-static_assert(sizeof(CGramInfo) == sizeof(void*) + 32);
-static_assert(sizeof(CWordGram) == sizeof(CGramInfo) + sizeof(void*));
-
 CGramInfo with(std::uint32_t word1, std::uint32_t word4 = 0) {
   CGramInfo info;
   info.G().word[1] = word1;

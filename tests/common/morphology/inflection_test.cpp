@@ -24,9 +24,6 @@ using kz::operator""_1251;
 
 namespace {
 
-// In 32 bits: the table of functions, 4 records of 8 bytes, the count, 80 characters, the length.
-static_assert(sizeof(void*) != 4 || sizeof(CGrSrcWordObj) == 4 + 32 + 1 + 80 + 1 + 2);
-
 constexpr std::string_view kTable =
     U"* окончания\r\n"
     U"\r\n"

@@ -79,7 +79,6 @@ TEST_F(EngineRegistry, TakesAKernelBlock) {
 }
 
 TEST(GenId, IsEightIndependentPools) {
-  static_assert(sizeof(CGenId) == 256);
   std::mt19937 random(7);
   CGenId ids;
   std::set<int> taken[8];

@@ -15,19 +15,6 @@
 
 namespace {
 
-struct Layout {
-  void* links[2];
-  std::int16_t numbers[3];
-  std::uint8_t priority;
-  std::int32_t data;
-};
-static_assert(sizeof(KZQUEOBJ) == sizeof(Layout) && sizeof(KZQUE) == 2 * sizeof(void*));
-static_assert(offsetof(KZQUEOBJ, next_back) == sizeof(void*));
-static_assert(offsetof(KZQUEOBJ, id) == offsetof(Layout, numbers));
-static_assert(offsetof(KZQUEOBJ, priority) == offsetof(Layout, priority));
-static_assert(offsetof(KZQUEOBJ, data) == offsetof(Layout, data));
-static_assert(sizeof(void*) != 4 || sizeof(KZQUEOBJ) == 20);
-
 using Link = KZQUEOBJ* KZQUEOBJ::*;
 
 // A queue of one of the links beside a list that is handled alike.
