@@ -1,10 +1,8 @@
 // Mapping rules from the foreign grammar: er_set_egram, re_set_egram.
-#include <cstddef>
+#include <algorithm>
 #include <cstring>
-#include <limits>
 #include <string_view>
 
-#include "grammar/map_bounded.h"
 #include "grammar/map_rules.h"
 #include "text/char_classes.h"
 #include "text/literal.h"
@@ -201,36 +199,14 @@ constexpr MapRules rules({
 
 }  // namespace re
 
-// Appends the rest of a translation at the final zero of a text, behind which `room` bytes stand.
-bool append_rest(char* zero, std::size_t room, std::string_view rest) {
-  const bool needs_number = !rest.empty() && !is_in(rest.front(), char_class::digit);
-  if (rest.size() + needs_number > room) return false;
-  if (needs_number) *zero++ = '1';
-  std::memcpy(zero, rest.data(), rest.size());
-  zero[rest.size()] = '\0';
-  return true;
-}
-
-// Sets the summary. Returns the text buffer if the text is to be appended to it, else null.
-char* set_foreign_summary(std::uint8_t* record, std::int16_t code, const char* text) {
-  re::rules.apply(record, &WordRecordView::foreign_gram, code);
-  if (record == nullptr || text == nullptr) return nullptr;
-  const WordRecordView view(record);
-  return view.level() > 4 ? view.text_buffer() : nullptr;
+// Appends the rest of a translation to a text.
+void append_rest(char* text, std::string_view rest) {
+  char* end = text + std::strlen(text);
+  if (!rest.empty() && !is_in(rest.front(), char_class::digit)) *end++ = '1';
+  *std::ranges::copy(rest, end).out = '\0';
 }
 
 }  // namespace
-
-bool re_set_egram_within(std::uint8_t* record, std::int16_t code, const char* text,
-                         std::size_t room) {
-  char* const buffer = set_foreign_summary(record, code, text);
-  if (buffer == nullptr) return true;
-  void* const zero = std::memchr(buffer, '\0', room);
-  if (zero == nullptr) return false;
-  const std::size_t length = static_cast<std::size_t>(static_cast<char*>(zero) - buffer);
-  return append_rest(static_cast<char*>(zero), room - length - 1, text);
-}
-
 }  // namespace kz
 
 void er_set_egram(std::uint8_t* record, std::int16_t code) {
@@ -238,8 +214,8 @@ void er_set_egram(std::uint8_t* record, std::int16_t code) {
 }
 
 void re_set_egram(std::uint8_t* record, std::int16_t code, const char* text) {
-  char* const buffer = kz::set_foreign_summary(record, code, text);
-  if (buffer == nullptr) return;
-  constexpr std::size_t unbounded = std::numeric_limits<std::size_t>::max();
-  kz::append_rest(buffer + std::strlen(buffer), unbounded, text);
+  kz::re::rules.apply(record, &WordRecordView::foreign_gram, code);
+  if (record == nullptr || text == nullptr) return;
+  const WordRecordView view(record);
+  if (view.level() > 4 && view.text_buffer() != nullptr) kz::append_rest(view.text_buffer(), text);
 }

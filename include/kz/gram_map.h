@@ -156,9 +156,10 @@ KZ_API void re_set_rgram(uint8_t* record, int16_t code);
  * empty. */
 KZ_API void re_set_egram(uint8_t* record, int16_t code, const char* text);
 
-/* The summary of a verb, from the GRAMINFO at `gram`, which may stand at any address, also inside
- * the record. er_set_vgram takes number and gender from it in any case, re_set_vgram only while the
- * fields are 0. Nothing is done when `gram` is null. */
+/* The summary of a verb, from the GRAMINFO at `gram`, which needs no alignment, unlike that of
+ * every other function: it may be the one inside the record. er_set_vgram takes number and gender
+ * from it in any case, re_set_vgram only while the fields are 0. Nothing is done when `gram` is
+ * null. */
 KZ_API void er_set_vgram(uint8_t* record, const void* gram);
 KZ_API void re_set_vgram(uint8_t* record, const void* gram);
 

@@ -42,6 +42,11 @@ typedef struct SEMANTICS {
   uint32_t word;
 } SEMANTICS;
 
+/* Both are aligned as uint32_t wherever a function takes a GRAMINFO* or SEMANTICS*: those of
+ * kz/gram_codec.h and kz/gram_attr.h and the setters of CGramInfo. The records inside a word record
+ * (kz/gram_map.h) are not: copy one to a variable, as WordRecordView does, before it is passed on.
+ * er_set_vgram and re_set_vgram alone, which take a const void*, read it at any address. */
+
 /* Bits of word 1. */
 enum GramWord1 {
   GRAM_MASCULINE = 1 << 0,
