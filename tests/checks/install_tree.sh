@@ -12,7 +12,11 @@ pc=$(find "$work/tree" -name kzcommon.pc)
 libdir=$(dirname "$(dirname "$pc")")
 
 export PKG_CONFIG_PATH=${pc%/*}
-cc -std=c11 -Wall -Wextra -Wpedantic -Werror "$clients/client.c" -o "$work/c_client" \
+# Every function that the headers declare to C, as an element of the client's table.
+echo '#include <kz/kzcommon.h>' | cc -E -P $(pkg-config --cflags kzcommon) - | tr '\n' ' ' |
+  grep -oP 'visibility\("default"\)\)\)[^;(]*?\K\w+(?=\()' |
+  sed 's/.*/(function*)&,/' >"$work/functions.inc"
+cc -std=c11 -Wall -Wextra -Wpedantic -Werror "-I$work" "$clients/client.c" -o "$work/c_client" \
   $(pkg-config --cflags --libs kzcommon) "-Wl,-rpath,$libdir"
 "$work/c_client"
 
