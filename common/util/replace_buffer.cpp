@@ -145,7 +145,9 @@ struct FindBufferCore {
 using kz::FindBufferCore;
 using kz::Follower;
 
-CFindBuffer::CFindBuffer(std::int16_t mode) : mode_(mode) {}
+CFindBuffer::CFindBuffer(std::int16_t mode) : mode_(mode) {
+  static_cast<void>(mode_);  // the caller's alone
+}
 
 CFindBuffer::~CFindBuffer() {
   CFindBuffer::Free();

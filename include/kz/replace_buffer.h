@@ -109,7 +109,7 @@ class KZ_API CFindBuffer : public ZCObject {
  private:
   friend struct kz::FindBufferCore;
 
-  [[maybe_unused]] std::int16_t mode_;
+  std::int16_t mode_;
   std::int16_t modified_ = 0;
   std::int16_t corrected_ = 0;
   std::uint16_t size_ = 0;

@@ -1,8 +1,10 @@
-// A C++ client of the installed library.
+// A C++11 client of the installed library.
 #include <kz/array.h>
 #include <kz/string.h>
 
 #include <cstdio>
+
+static_assert(__cplusplus < 201402L, "the package asks for a later C++ than its headers need");
 
 int main() {
   ZCStringArray words;
