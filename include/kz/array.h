@@ -5,10 +5,11 @@
 // move and swap blocks of elements. Pointers are not owned: removing one never deletes what it
 // points to; strings are owned. An array serves one thread at a time. A short example:
 //
-//     ZCStringArray words;
-//     words.Add("table");
-//     words.InsertAt(0, "chair", 1);      // chair, table
-//     words.Move(2, 0, 1);                // table, chair
+//   ZCStringArray words;
+//   words.Add("table");
+//   words.InsertAt(0, "chair", 1);  // chair, table
+//   words.Move(2, 0, 1);
+//   for (int i = 0; i < words.GetSize(); i++) puts(words.GetAt(i));  // prints "table", "chair"
 //
 // Growth: the first allocation is exact. Later ones add the array's grow-by elements or, when that
 // is 0, an eighth of the size (at least 4, at most 1024), so that repeated Add stays cheap.

@@ -7,7 +7,9 @@
  * or 0; case functions return a code of 0 to 255; string functions work in place and return their
  * argument, null for null.
  *
+ *   int c = 0xC4;  // a Russian capital of Windows-1251
  *   if (ischalpha(c, "RUEN", 1)) c = toruansilower(c);
+ *   printf("%X\n", c);  // prints "E4", the small letter
  */
 #ifndef KZ_CHARCLASS_H
 #define KZ_CHARCLASS_H

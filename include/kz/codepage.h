@@ -6,8 +6,9 @@
  * languages, some punctuation and the box-drawing characters are translated; every other byte
  * passes unchanged, and codes below 128 always do. There are no failures; no pointer may be null.
  *
- *   char line[] = "...";                        // Windows-1251
- *   char* end = strruansitooem(line, line);     // now CP866, in place; *end is the final zero
+ *   char line[] = "\xE4\xEE\xEC";             // three letters of Windows-1251
+ *   char* end = strruansitooem(line, line);  // now CP866, in place; *end is the final zero
+ *   printf("%d %X\n", (int)(end - line), (unsigned char)line[0]);  // prints "3 A4"
  */
 #ifndef KZ_CODEPAGE_H
 #define KZ_CODEPAGE_H

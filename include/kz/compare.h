@@ -5,7 +5,8 @@
  * characters), cmp. There is no collation by language: order is that of the folded codes, so that
  * yo stands before all other Russian letters in Windows-1251 and after them in CP866.
  *
- *   if (stransiaicmp(word, headword, "FR") == 0) found();   // ecole finds its accented form
+ *   const char* headword = "\xC9" "cole";  // with an accent on its first letter
+ *   if (stransiaicmp("ecole", headword, "FR") == 0) puts("found");  // prints "found"
  */
 #ifndef KZ_COMPARE_H
 #define KZ_COMPARE_H

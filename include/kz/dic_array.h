@@ -6,21 +6,26 @@
  * writes down what the queue holds. The parameter string keeps the arrays of a language pair as
  * text: DicArrayParmStr writes it, DicArrayAddPath reads the list of one direction.
  *
- *     CDicSys* set = DicSysOpen(1, "ENRU", "/usr/share/kz/");
- *     DicArrayAddPath(set, -1, "ENRU", "/home/me/my.dic:2;/usr/share/kz/baseenru.dic:0");
- *     DicArrayLoad(set, DicArraySelect(set, 0), 1);
- *     DicQueFirst(set, 1, 0);
+ *   CDicSys* set = DicSysOpen(1, "ENRU", "./");
+ *   DicArrayAddPath(set, DIC_APPEND, "ENRU", "pets.dic:2;baseenru.dic:0");
+ *   DicArrayLoad(set, DicArraySelect(set, 0), 1);
+ *   printf("%d loaded\n", DicQueGetSize(set, DIC_LIST_TRANSLATION));  // prints "2 loaded"
+ *   char text[256] = "";
+ *   DicArrayParmStr(set, text);
+ *   puts(text);  // prints "", "-CENRU pets.dic:2;baseenru.dic:0"
+ *   DicSysClose(set);
  *
  * A descriptor's path that holds neither '/' nor '\' is a file name in the directory of the set,
  * which is a prefix taken as it stands. A completed path has at most 259 characters and a token of
  * a path list at most 267; longer ones are refused. Every function does nothing for a null set and
- * returns what is said then. The mode of a descriptor is a byte; a position is -1 (as any negative
- * number) to append, or the index of the descriptor to be replaced. */
+ * returns what is said then. The mode of a descriptor is a byte; a position is DIC_APPEND (as any
+ * negative number), or the index of the descriptor to be replaced. */
 #ifndef KZ_DIC_ARRAY_H
 #define KZ_DIC_ARRAY_H
 
 #include <stdint.h>
 
+#include "kz/dic_queue.h"
 #include "kz/export.h"
 #include "kz/types.h"
 
@@ -48,7 +53,7 @@ KZ_API int16_t DicArraySet(CDicSys* set, int16_t position, const char* name, int
                            int16_t full_path);
 
 /* Empties the array of the direction and fills it with the dictionaries of queue list 1, then of
- * list 2 when the language of the set begins with E, D, P or F, of list 3 otherwise. The flag 128
+ * list 2 when the language of the set begins with E, D, P or F, of list 3 otherwise. DIC_MODE_FLAG
  * in the mode of a dictionary is cleared on the way, unless it stands alone. With an operation code
  * (DicSetOperationCode) the array stays empty. Returns 0; -1 for a null set. */
 KZ_API int DicArrayUpdate(CDicSys* set);
@@ -91,8 +96,8 @@ KZ_API int DicArrayAddPath(CDicSys* set, int16_t position, const char* direction
 /* --- Base dictionaries and chains ------------------------------------------------------------- */
 
 /* Empties all arrays, puts into each direction its base dictionaries, both in the directory of the
- * set and with mode 0 ("baseenru.dic" and "baseru.dig" for ENRU; the second one is the general
- * dictionary of the target language), loads those of the working direction, and numbers the
+ * set and in DIC_MODE_PLAIN ("baseenru.dic" and "baseru.dig" for ENRU; the second one is the
+ * general dictionary of the target language), loads those of the working direction, and numbers the
  * dictionaries of the queue. */
 KZ_API void DicSysLoadCommon(CDicSys* set);
 

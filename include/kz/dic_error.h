@@ -6,8 +6,9 @@
  * threads that use the engine at the same time, each on dictionaries or a set of its own, share
  * nothing else and are no data race. But it has no owner, so they overwrite each other's code.
  *
- *     CDic* dictionary = DicOpen("general.dic", 0);
- *     if (!dictionary && kz_dict_dic_errno() == DIC_ERR_FILE) puts(strerror(kz_dict_errno()));
+ *   CDic* dictionary = DicOpen("missing.dic", DIC_MODE_PLAIN);
+ *   if (!dictionary && kz_dict_dic_errno() == DIC_ERR_FILE)
+ *     puts(strerror(kz_dict_errno()));  // prints "No such file or directory"
  */
 #ifndef KZ_DIC_ERROR_H
 #define KZ_DIC_ERROR_H

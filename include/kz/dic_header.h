@@ -5,8 +5,9 @@
  * scrambled; the DicPw functions write, read and compare it. The checksum field is only ever
  * compared, by kz_dict_chk_csd: whoever writes a header stores it.
  *
- *     DicHeader header;
- *     if (DicHeaderOpen("general.dic", &header, 0) == DIC_OK) printf("%.40s\n", header.Title);
+ *   DicHeader header;
+ *   if (DicHeaderOpen("baseenru.dic", &header, 0) == DIC_OK)
+ *     printf("%.40s\n", header.Title);  // prints "KZ sample dictionary, English-Russian"
  */
 #ifndef KZ_DIC_HEADER_H
 #define KZ_DIC_HEADER_H

@@ -7,8 +7,11 @@
  * looks into the index of an open dictionary, and the kz_codr comparisons put letters with
  * accents in order.
  *
- *     int slot = Index0('d', "ENRU", 26);                 // 3
- *     int32_t bytes = DicSizeX(dictionary, "dog");        // size of the block that holds "dog"
+ *   printf("%d\n", Index0('d', "ENRU", 26));  // prints "3"
+ *   CDic* dictionary = DicOpen("pets.dic", DIC_MODE_PLAIN);
+ *   if (DicSizeX(dictionary, "dog") > 0) puts("in a block");  // prints "in a block"
+ *   if (DicSizeX(dictionary, "Dog") == -1) puts("a capital");  // prints "a capital"
+ *   DicClose(dictionary);
  */
 #ifndef KZ_DIC_INDEX_H
 #define KZ_DIC_INDEX_H

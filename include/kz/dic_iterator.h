@@ -5,11 +5,12 @@
  * of a range of first letters in file order, those of some code characters (the part of speech
  * letter behind the last '*') if so asked.
  *
- *     char word[256], code[2], body[2050];
- *     CDicEntryIterator* nouns = DicIteratorOpen(0, "base.dic", "a", "", 0, "Nn", 1);
- *     const char* record = DicIteratorGetFirstEntry(nouns, word, code, body, 0, 0);
- *     for (; record; record = DicIteratorGetNextEntry(nouns, word, code, body, 0)) puts(word);
- *     DicIteratorClose(nouns);
+ *   char word[DIC_ENTRY_ROOM];
+ *   CDicEntryIterator* nouns = DicIteratorOpen(0, "pets.dic", "a", "", 0, "Nn", 1);
+ *   const char* record = DicIteratorGetFirstEntry(nouns, word, 0, 0, 0, DIC_SEARCH_EXACT);
+ *   for (; record; record = DicIteratorGetNextEntry(nouns, word, 0, 0, 0))
+ *     puts(word);  // prints "cat", "dog"
+ *   DicIteratorClose(nouns);
  *
  * The position of a walk is the search state of its dictionary: a search there in between disturbs
  * it. An iterator serves one thread at a time. */
@@ -18,6 +19,7 @@
 
 #include <stdint.h>
 
+#include "kz/dictionary.h"
 #include "kz/export.h"
 #include "kz/types.h"
 
@@ -64,7 +66,7 @@ KZ_API void DicSysIteratorClose(CDicSysEntryIterator* iterator);
  * dictionary until the next record or search; null when there is none, after a failed read, and for
  * a null iterator.
  *
- * search_mode 0 begins with the first record of the dictionary, or with the first one under the
+ * DIC_SEARCH_EXACT begins with the first record of the dictionary, or with the first one under the
  * letter of the range when that is not the first of the alphabet. Another mode is one of DicFind
  * and begins where DicFind finds the text that `headword` holds (with a null or empty one, the
  * first letter of the range); the walk then ends with the records that this search covers.

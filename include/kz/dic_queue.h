@@ -5,31 +5,29 @@
  * selects where a search begins; DicQueFind gives the first answer, DicQueNext and DicQueFindRest
  * the further ones. The set remembers for each list which dictionary answered last.
  *
- *     DicQueLoad(set, -1, "/usr/share/kz/general.dic", 2);
- *     DicQueFirst(set, 1, 0);
- *     const char* entry = DicQueFind(set, 1, "table", 0, 2);
- *     while (entry) {
- *       puts(entry);
- *       entry = DicQueNext(set, 1) ? DicQueFindRest(set, 1, "table", 0, 2) : 0;
- *     }
+ *   CDicSys* set = DicSysOpen(0, "ENRU", "");
+ *   DicQueLoad(set, DIC_APPEND, "pets.dic", DIC_MODE_PLAIN);
+ *   DicQueLoad(set, DIC_APPEND, "baseenru.dic", DIC_MODE_CACHE);
+ *   DicQueFirst(set, DIC_LIST_TRANSLATION, 0);
+ *   const char* entry =
+ *       DicQueFind(set, DIC_LIST_TRANSLATION, "dog", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
+ *   while (entry) {
+ *     puts(entry);  // prints "dog*N[|F]собака;пёс[M]", "dog*N[|F@]собака;пёс[M@]"
+ *     if (!DicQueNext(set, DIC_LIST_TRANSLATION)) break;
+ *     entry = DicQueFindRest(set, DIC_LIST_TRANSLATION, "dog", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
+ *   }
+ *   DicSysClose(set);
  *
- * Lists:
- *   0  every dictionary of the queue, in load order; the queue owns them
- *   1  translation dictionaries (type 'C') whose language begins with the same letter as the
- *      direction of the set: those of the working direction
- *   2  other dictionaries whose language begins with 'R'
- *   3  all others
- *   4  dictionaries of the Russian side, and 5 of the other side, of a chain
- *      (kz/dic_array.h); filled by the engine, in C++ through CDicSys::queue
- *
- * Every function does nothing for a null set and then returns 0, null or, where said, -1. Lists are
- * numbered 0 to 5; another number is an empty list. A handle is valid until its dictionary is
+ * Every function does nothing for a null set and then returns 0, null or, where said, -1. A list
+ * argument is an enum DicList, another number an empty list; open modes, search modes and levels
+ * are those of kz/dictionary.h. A handle is valid until its dictionary is
  * unloaded, reloaded or cleared. A set serves one thread at a time. */
 #ifndef KZ_DIC_QUEUE_H
 #define KZ_DIC_QUEUE_H
 
 #include <stdint.h>
 
+#include "kz/dictionary.h"
 #include "kz/export.h"
 #include "kz/types.h"
 
@@ -37,14 +35,30 @@
 extern "C" {
 #endif
 
+/* The lists of a set. */
+enum DicList {
+  DIC_LIST_CURRENT = -1,    /* DicQueNext alone: the list of the latest DicQueFirst or DicQueNext */
+  DIC_LIST_ALL = 0,         /* every dictionary of the queue, in load order; the queue owns them */
+  DIC_LIST_TRANSLATION = 1, /* translation dictionaries (type 'C') whose language begins with the
+                               same letter as the direction of the set: of that direction */
+  DIC_LIST_RUSSIAN = 2,     /* other dictionaries whose language begins with 'R' */
+  DIC_LIST_OTHER = 3,       /* all others */
+  DIC_LIST_RUSSIAN_CHAIN = 4, /* dictionaries of the Russian side of a chain (kz/dic_array.h), */
+  DIC_LIST_OTHER_CHAIN = 5    /* and of the other side; the engine fills both, in C++ through
+                                 CDicSys::queue */
+};
+
+/* The position behind the last one. */
+enum { DIC_APPEND = -1 };
+
 /* --- Loading ---------------------------------------------------------------------------------- */
 
 /* DicOpen(path, mode): the dictionary joins no list, and the caller closes it. */
 KZ_API CDic* DicQueOpen(CDicSys* set, const char* path, int16_t mode);
 
 /* Opens the dictionary file in an open mode (kz/dictionary.h) and files it: into its list of 1 to
- * 3, before the given position (-1, and a position behind the end, append it), and at the end of
- * list 0. Its id becomes its position in its list.
+ * 3, before the given position (DIC_APPEND, and a position behind the end, append it), and at the
+ * end of list 0. Its id becomes its position in its list.
  *
  * First a dictionary of the same file name is unloaded as by DicQueUnLoad(set, path, mode); when
  * that keeps it, the result is null, and so it is when the file cannot be opened (the error
@@ -86,8 +100,8 @@ KZ_API int DicQueGetSize(CDicSys* set, int16_t list);
 KZ_API CDic* DicQueFirst(CDicSys* set, int16_t list, int16_t index);
 
 /* Steps the list to the dictionary behind its current index and returns it; null, with index -1,
- * behind the last one, and while the index is -1. List -1 is the current list, that of the latest
- * DicQueFirst or DicQueNext; another one becomes the current list. */
+ * behind the last one, and while the index is -1. DIC_LIST_CURRENT is the current list, that of the
+ * latest DicQueFirst or DicQueNext; another one becomes the current list. */
 KZ_API CDic* DicQueNext(CDicSys* set, int16_t list);
 
 /* Selects the list's dictionary at the index, for searches and DicQueNext. An index outside the

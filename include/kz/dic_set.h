@@ -4,12 +4,13 @@
  * files, the queue of its open dictionaries (kz/dic_queue.h), for every direction an array that
  * says which dictionaries belong to it (kz/dic_array.h), and two work buffers for the engine.
  *
- *     CDicSys* set = DicSysOpen(1, "ENRU", "/usr/share/kz/");
- *     DicSysLoadCommon(set);                     // the base dictionaries of the direction
- *     DicQueFirst(set, 1, 0);
- *     const char* entry = DicQueFind(set, 1, "table", 0, 2);
- *     if (entry) puts(entry);
- *     DicSysClose(set);
+ *   CDicSys* set = DicSysOpen(1, "ENRU", "./");
+ *   DicSysLoadCommon(set);  // the base dictionaries of the direction
+ *   DicQueFirst(set, DIC_LIST_TRANSLATION, 0);
+ *   const char* entry =
+ *       DicQueFind(set, DIC_LIST_TRANSLATION, "bread", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
+ *   if (entry) puts(entry);  // prints "bread*N[-P|M]хлеб"
+ *   DicSysClose(set);
  *
  * Every function does nothing for a null set and returns what is said then. A set serves one thread
  * at a time; several sets may be used by several threads, even on the same files. */

@@ -5,10 +5,10 @@
  * (Windows-1251 for Russian, Windows-1252 for German and French). What went wrong is in the
  * dictionary error variable (kz/dic_error.h).
  *
- *     CDic* dictionary = DicOpen("BASE.ENRU.DIC", 0);
- *     const char* entry = DicFind(dictionary, "table", 0, 2);
- *     if (entry) puts(entry);
- *     DicClose(dictionary);
+ *   CDic* dictionary = DicOpen("baseenru.dic", DIC_MODE_PLAIN);
+ *   const char* entry = DicFind(dictionary, "dog", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
+ *   if (entry) puts(entry);  // prints "dog*N[|F@]собака;пёс[M@]"
+ *   DicClose(dictionary);
  *
  * A dictionary serves one thread at a time. */
 #ifndef KZ_DICTIONARY_H
@@ -24,15 +24,42 @@ extern "C" {
 /* Room that a found entry can take, its terminating zero included. */
 enum { DIC_ENTRY_ROOM = 2050 };
 
-/* Open modes. 0 reads blocks as searches need them. 1 does not consult the index: a search reads
- * from the block searched last (at first: from the first record) to the end of the records. 2 and 4
- * keep a block cache, which LoadAllOffsets fills at once in mode 2 and searches fill as they go;
- * both become 0 when there is no memory for the cache. 5 is for DicSetMode alone and reopens a
- * dictionary in the mode that it has. 128 is a flag in the mode byte that no search looks at. */
+/* Open modes: how a dictionary reads the blocks of records that the index leads to. DicOpen takes
+ * the first four; both cached modes become DIC_MODE_PLAIN when there is no memory for the cache. */
+enum DicMode {
+  DIC_MODE_PLAIN = 0,    /* from the file, as searches need them */
+  DIC_MODE_NO_INDEX = 1, /* the index is not asked: a search reads from the block searched last (at
+                            first: from the first record) to the end of the records */
+  DIC_MODE_CACHE_ALL =
+      2,              /* blocks that were read stay in memory; LoadAllOffsets reads all of them */
+  DIC_MODE_CACHE = 4, /* blocks that were read stay in memory */
+  DIC_MODE_SAME = 5,  /* DicSetMode alone: the mode that the dictionary has */
+  DIC_MODE_ANY = 6,   /* DicQueUnLoad alone: whatever mode the dictionary has */
+  DIC_MODE_FLAG = 128 /* added to a mode by DicSetMode; no search looks at it */
+};
 
-/* Opens the dictionary file at the path in an open mode. Returns its handle, to be given to
- * DicClose, or null with the dictionary error variable set: 195 the file cannot be opened, 196 out
- * of memory, 202 not a dictionary, or damaged. The file is kept open and closed to writers. */
+/* Search modes: which headwords answer to a word. */
+enum DicSearch {
+  DIC_SEARCH_EXACT = 0,  /* the word itself */
+  DIC_SEARCH_PREFIX = 1, /* the first one that begins with the word, in the block that the first
+                            letters of the word lead to */
+  DIC_SEARCH_GROUP = 2,  /* the same; for a word shorter than what the index distinguishes, in all
+                            blocks of words that begin like it */
+  DIC_SEARCH_REST = -1   /* the same, from that block to the end of the records */
+};
+
+/* Levels: how far the text of a found record is worked out. Each includes the ones before it. */
+enum DicLevel {
+  DIC_LEVEL_FOUND = 0,   /* not at all: the text of a packed record stays empty */
+  DIC_LEVEL_DECODED = 1, /* packed records are decoded */
+  DIC_LEVEL_FULL = 2, /* a reference to the shared text of the dictionary is replaced by that text:
+                         the entry as kz/entry.h takes it; greater numbers mean the same */
+  DIC_LEVEL_ANEW = -1 /* DicGetFound alone: DIC_LEVEL_FULL, worked out again */
+};
+
+/* Opens the dictionary file at the path; mode is an enum DicMode. Returns its handle, to be given
+ * to DicClose, or null with the dictionary error variable set: 195 the file cannot be opened, 196
+ * out of memory, 202 not a dictionary, or damaged. The file is kept open and closed to writers. */
 KZ_API CDic* DicOpen(const char* path, int16_t mode);
 
 /* Closes a dictionary and releases everything that it owns, its entry texts and its entry object
@@ -41,11 +68,7 @@ KZ_API void DicClose(CDic* dictionary);
 
 /* Looks a word up.
  *
- * search_mode: 0 the exact headword; 1 or 2 the first headword that begins with the word (2 also
- * when the word is shorter than what the index distinguishes: the whole group is searched); -1 as
- * 1, from the word's place to the end of the records. level: 0 finds the record without decoding it
- * (the text of a packed record is empty then), 1 decodes it, 2 or more also resolves a reference
- * to the dictionary's shared text.
+ * search_mode is an enum DicSearch, level an enum DicLevel.
  *
  * A null word finds the first record of the dictionary; an empty word, one longer than 77
  * characters, or one whose beginning the index does not know (capitals, for instance) finds
@@ -62,17 +85,18 @@ KZ_API const char* DicFind(CDic* dictionary, const char* word, int16_t search_mo
 KZ_API const char* DicFindNext(CDic* dictionary, int16_t level);
 
 /* The entry found last, decoded to the level if that asks for more than has been decoded yet;
- * level -1 decodes it anew and fully. Copied to the buffer (DIC_ENTRY_ROOM bytes) unless that is
- * null. Returns the entry as DicFind does: an empty text when nothing was found, null for a null
+ * DIC_LEVEL_ANEW decodes it anew and fully. Copied to the buffer (DIC_ENTRY_ROOM bytes) unless that
+ * is null. Returns the entry as DicFind does: an empty text when nothing was found, null for a null
  * handle. */
 KZ_API const char* DicGetFound(CDic* dictionary, char* buffer, int16_t level);
 
-/* Looks up the word in the buffer at level 2 and puts its entry in its place; the buffer has room
- * for DIC_ENTRY_ROOM bytes. Returns 0, or 204 (left in the error variable too) when nothing was
- * found or the handle or the buffer is null. */
+/* Looks up the word in the buffer at DIC_LEVEL_FULL and puts its entry in its place; the buffer has
+ * room for DIC_ENTRY_ROOM bytes. Returns 0, or 204 (left in the error variable too) when nothing
+ * was found or the handle or the buffer is null. */
 KZ_API int16_t DicGetEntry(CDic* dictionary, char* buffer, int16_t search_mode);
 
-/* DicOpen in mode 0, DicGetEntry, DicClose. Returns 0, the code of the failed open, or 204. */
+/* DicOpen in DIC_MODE_PLAIN, DicGetEntry, DicClose. Returns 0, the code of the failed open, or
+ * 204. */
 KZ_API int16_t DicOpenGetEntry(const char* path, char* buffer, int16_t search_mode);
 
 /* The dictionary's own entry object, in the language of the dictionary. The first call after a
@@ -92,8 +116,8 @@ KZ_API int16_t DicGetId(CDic* dictionary);
 /* The mode byte; 0 for a null handle. */
 KZ_API int16_t DicGetMode(CDic* dictionary);
 
-/* In mode 2, loads every block into the block cache; else does nothing. A block that cannot be
- * loaded is left to the searches. */
+/* In DIC_MODE_CACHE_ALL, loads every block into the block cache; else does nothing. A block that
+ * cannot be loaded is left to the searches. */
 KZ_API void LoadAllOffsets(CDic* dictionary);
 
 #ifdef __cplusplus

@@ -5,9 +5,11 @@
  * never looks behind them. Handles come from a pool of ids, which callers may use for handles of
  * their own too. Set up by one thread before others use it.
  *
+ *   int engine = 0;  // whatever the modules share
  *   int16_t handle = SetKZEngine(&engine, 0);
- *   struct Engine* same = KZEngine((uint16_t)handle);
+ *   if (KZEngine((uint16_t)handle) == &engine) puts("shared");  // prints "shared"
  *   FreeEngineHandler((uint16_t)handle);
+ *   kz_data_free();
  */
 #ifndef KZ_ENGINE_H
 #define KZ_ENGINE_H

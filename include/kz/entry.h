@@ -6,9 +6,11 @@
  * The text format is described in docs/entry-format.md. Russian text is Windows-1251, other text
  * Windows-1252. One entry serves one thread at a time.
  *
- *   CDicEntry* entry = DicEntryOpen("table*N1.desk/2.chart;graph", 0, 0, 0, "ENRU", 'c');
- *   for (short i = 0; i < DicEntryGetMeaningsSize(entry); i++)
- *     puts(DicEntryGetSynonym(entry, i, 0, 0));       // desk, chart
+ *   // A noun, the Russian word for a table.
+ *   const char* text = "\xF1\xF2\xEE\xEB*N1.table;desk/2.board";
+ *   CDicEntry* entry = DicEntryOpen(text, DIC_PART_IN_TEXT, 0, 0, "RUEN", DIC_KIND_SPACED);
+ *   for (int16_t i = 0; i < DicEntryGetMeaningsSize(entry); i++)
+ *     puts(DicEntryGetSynonym(entry, i, 0, 0));  // prints "table", "board"
  *   DicEntryClose(entry);
  */
 #ifndef KZ_ENTRY_H
@@ -18,6 +20,24 @@
 
 #include "kz/export.h"
 #include "kz/types.h"
+
+/* The kind of an entry: how it keeps synonyms. It is the type letter of the dictionary; only the
+ * two kinds of translation dictionaries know the letters of part codes in a body, with which groups
+ * of synonyms begin. In entries of any other kind, such as 'G', synonyms stay as they stand. */
+enum DicEntryKind {
+  DIC_KIND_REDUCED = 'C', /* for an engine: without part codes */
+  DIC_KIND_SPACED = 'c'   /* to be shown: with blanks around part codes and groups; the kind of the
+                             entries that a dictionary of type 'C' gives (DicGetEntryHandler) */
+};
+
+/* The part code of an entry is the character behind the '*' of its text, such as 'N' for a noun or
+ * 'V' for a verb (kz/gram_codec.h); 'W' and 'w' are phrases, '$' a body of free text, '=' a
+ * reference to another entry. Where an entry is built: */
+enum { DIC_PART_IN_TEXT = 0 }; /* the text is a full entry, which has its part code */
+
+/* A meaning is one numbered part of a body, or the group of synonyms behind a part code: a tag (the
+ * number, or the code), a definition in braces, and synonyms, which a ';' separates. Meanings and
+ * the synonyms of each are counted from 0. */
 
 #ifdef __cplusplus
 #include "kz/array.h"
@@ -64,17 +84,17 @@ class KZ_API CDicEntryMeaning : public ZCObject {
 class KZ_API CDicEntry {
  public:
   // An empty entry. `language` is a language or direction code ("RU", "ENRU"), of which at most
-  // four characters are kept; `kind` is the type letter of the dictionary ('C' or 'c' for
-  // translation).
+  // four characters are kept; `kind` is an enum DicEntryKind or another type letter.
   explicit CDicEntry(const char* language = nullptr, char kind = 'c');
   virtual ~CDicEntry();
 
   CDicEntry(const CDicEntry&) = delete;
   CDicEntry& operator=(const CDicEntry&) = delete;
 
-  // Fills the entry and parses its body into meanings, replacing the previous ones. Part 0: `text`
-  // is a full entry and is split. Otherwise `text` becomes head word and source word, and `entry`
-  // the body; the full entry stays as it was. The arguments may be texts of this object.
+  // Fills the entry and parses its body into meanings, replacing the previous ones. Part
+  // DIC_PART_IN_TEXT: `text` is a full entry and is split. Otherwise `text` becomes head word and
+  // source word, and `entry` the body; the full entry stays as it was. The arguments may be texts
+  // of this object.
   void Build(const char* text, char part, const char* entry, const char* srcRef);
 
   void Split();  // full entry into pieces; meanings stay
@@ -161,14 +181,16 @@ extern "C" {
 /* Handle functions. A handle is the address of a CDicEntry; a null handle does nothing and gives
  * the result stated. They do what the members of the same names do. */
 
-/* A new entry, built as by DicEntryBuild; close it with DicEntryClose. Null when memory runs out.
- * A dictionary's own entry object (DicGetEntryHandler) is not to be closed. */
+/* A new entry, built as by DicEntryBuild, of a language or direction ("EN", "ENRU") and a kind
+ * (enum DicEntryKind or another type letter); close it with DicEntryClose. Null when memory runs
+ * out. A dictionary's own entry object (DicGetEntryHandler) is not to be closed. */
 KZ_API CDicEntry* DicEntryOpen(const char* text, int part, const char* entry, const char* srcRef,
                                const char* language, int kind);
 KZ_API void DicEntryClose(CDicEntry* handle);
 
-/* Part 0: `text` is a full entry; otherwise `text` is the head word and `entry` the body. Parses
- * the meanings. */
+/* DIC_PART_IN_TEXT: `text` is a full entry, `entry` and `srcRef` do not count. Otherwise `part` is
+ * the part code, `text` the head word, `entry` the body, `srcRef` the source reference. Parses the
+ * meanings. */
 KZ_API void DicEntryBuild(CDicEntry* handle, const char* text, int part, const char* entry,
                           const char* srcRef);
 KZ_API void DicEntrySplit(CDicEntry* handle);

@@ -6,8 +6,9 @@
  * entry text. Returned pointers point into the text passed in; no scan passes the terminating
  * zero. Russian text is Windows-1251, other text Windows-1252; all markers are ASCII.
  *
- *   for (const char* part = synonym; *part != 0; part = GetNextPart(part + 1, "ENRU", 'N'))
- *     if (IsDicEntryNewPart(part, "ENRU", 'N')) ...
+ *   puts(SkipLabels("a)b)word"));  // prints "word"
+ *   for (const char* part = "cabinNhutVhouse"; *part; part = GetNextPart(part + 1, "RUEN", 'N'))
+ *     puts(part);  // prints "cabinNhutVhouse", "NhutVhouse", "Vhouse"
  */
 #ifndef KZ_ENTRY_TEXT_H
 #define KZ_ENTRY_TEXT_H

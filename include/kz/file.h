@@ -6,20 +6,11 @@
 // each other's sharing bits, in one process and between processes.
 //
 //   ZCFile file;
-//   if (file.Open("words.txt", 0x8020)) {  // read, others may read
+//   if (file.Open("words.txt", KZ_FILE_READ | KZ_FILE_SHARE_READ)) {
 //     ZCString line;
-//     while (file.ReadString(line) != nullptr) use(line);
+//     while (file.ReadString(line) != nullptr) puts(line);  // prints "cat", "dog"
 //     file.Close();
 //   }
-//
-// Open flags, added together:
-//   access       0 read, 1 write, 2 read and write (3 counts as 0)
-//   sharing      0x00, 0x10 none; 0x20 others may read; 0x30 others may write;
-//                0x40 others may read and write; 0x50 to 0x70 others may read
-//   inheritance  0x0080 child processes do not inherit the handle
-//   creation     0x1000 create the file, truncating one that exists; 0x3000 create it or keep
-//                the contents of one that exists; without 0x1000 the file must exist
-//   0x8000       binary: accepted and ignored
 //
 // Names are the bytes of the system's own file names. Positions and lengths are 32-bit: those of
 // 4 GB and more count as failures, and Seek gives those of 2 GB and more as negative numbers.
@@ -33,6 +24,22 @@
 #include "kz/object.h"
 #include "kz/string.h"
 #include "kz/time.h"
+
+// Open flags: one kind of access, at most one of sharing, and any of the others, or-ed together.
+// Without KZ_FILE_CREATE the file must exist.
+enum KzFileFlag : unsigned int {
+  KZ_FILE_READ = 0x0000,  // 3 means the same
+  KZ_FILE_WRITE = 0x0001,
+  KZ_FILE_READ_WRITE = 0x0002,
+  KZ_FILE_SHARE_NONE = 0x0010,   // nobody else may open the file; 0 means the same
+  KZ_FILE_SHARE_READ = 0x0020,   // others may read; 0x50 to 0x70 mean the same
+  KZ_FILE_SHARE_WRITE = 0x0030,  // others may write
+  KZ_FILE_SHARE_ALL = 0x0040,    // others may read and write
+  KZ_FILE_NO_INHERIT = 0x0080,   // child processes do not inherit the handle
+  KZ_FILE_CREATE = 0x1000,       // creates the file, truncating one that exists
+  KZ_FILE_KEEP = 0x2000,         // with KZ_FILE_CREATE: keeps the contents of one that exists
+  KZ_FILE_BINARY = 0x8000        // accepted and ignored
+};
 
 // What is known about a file. A new record is unset until a status operation has filled it.
 class KZ_API ZCFileStatus {
@@ -75,9 +82,9 @@ class KZ_API ZCFile : public ZCObject {
   virtual ZCString GetFilePath();
   virtual void SetFilePath(const char* path);
 
-  // Opens the file `name` by `flags` (above). 1 on success; 0 on failure, with errno EBUSY when
-  // another open forbids this one by its sharing bits, or this one forbids it. The file path
-  // becomes the full path of `name` in either case. A file already open here is abandoned, not
+  // Opens the file `name` by `flags`, of enum KzFileFlag. 1 on success; 0 on failure, with errno
+  // EBUSY when another open forbids this one by its sharing bits, or this one forbids it. The file
+  // path becomes the full path of `name` in either case. A file already open here is abandoned, not
   // closed: Close it first.
   virtual int Open(const char* name, unsigned int flags);
 

@@ -4,10 +4,11 @@
 // then the rest of the word with the top bit of every byte inverted: the form in which packed
 // dictionaries keep their records. One object encodes one list, word by word in order:
 //
-//     CGenSteno coder;
-//     char code[64];
-//     coder.CodeOrfo("house", code);     // 0, "house" inverted, zero byte
-//     coder.CodeOrfo("houses", code);    // 5, "s" inverted, zero byte
+//   CGenSteno coder;
+//   char code[64];
+//   coder.CodeOrfo("house", code);                  // 0, "house" inverted, zero byte
+//   int length = coder.CodeOrfo("houses", code);    // 5, "s" inverted, zero byte
+//   printf("%d bytes, %d shared\n", length, code[0]);  // prints "2 bytes, 5 shared"
 #ifndef KZ_FRONT_CODING_H
 #define KZ_FRONT_CODING_H
 

@@ -5,9 +5,11 @@
  * them and expands the class names into part of speech and grammar. A paradigm travels as one
  * value, its number in the low 16 bits and its base in the high 16 bits.
  *
- *   uint32_t attributes[2] = {2, 12};   // class "NMa", paradigm 12
- *   GRAMINFO gram = {0};
- *   SetGrSrcAttr(&gram, attributes);    // code "N", masculine, animate, paradigm 12
+ *   uint32_t attributes[2] = {2, 12};  // class "NMa", paradigm 12
+ *   GRAMINFO gram = {{0}};
+ *   SetGrSrcAttr(&gram, attributes);
+ *   printf("%c\n", (int)(gram.word[2] >> GRAM_CODE_SHIFT & 0xFF));  // prints "N"
+ *   if (gram.word[1] & GRAM_MASCULINE) puts("masculine");           // prints "masculine"
  */
 #ifndef KZ_GRAM_ATTR_H
 #define KZ_GRAM_ATTR_H

@@ -6,11 +6,11 @@
  * adds: clear the records first. docs/grammar.md lists the tags. Text is Windows-1251;
  * part-of-speech codes are its characters, cut to their low 8 bits.
  *
- *   GRAMINFO gram = {0};
+ *   GRAMINFO gram = {{0}};
  *   SEMANTICS semantics = {0};
  *   char code = 0, area[2] = {0}, text[GRAM_STRING_SIZE];
  *   StrToGram("F@S#7%N]", &code, &gram, &semantics, 'N', area);
- *   GramToStr('N', &gram, &semantics, text);   // "FS@#7%N"
+ *   puts(GramToStr('N', &gram, &semantics, text));  // prints "FS@#7%N"
  */
 #ifndef KZ_GRAM_CODEC_H
 #define KZ_GRAM_CODEC_H

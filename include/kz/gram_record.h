@@ -3,13 +3,14 @@
  * A GRAMINFO is seven words of bits: gender, number, cases, tense, aspect, paradigm, part of speech
  * and many class flags; a SEMANTICS is 32 flags. Tag strings (kz/gram_codec.h) and compact
  * attributes (kz/gram_attr.h) fill them. The library gives a meaning to the fields named here; it
- * carries, reads and writes the flags without one. docs/grammar.md lists every bit with its tag.
+ * carries, reads and writes the flags without one. docs/grammar.md lists every bit with its tag. In
+ * C++:
  *
  *   CWordGram table;
  *   char code = 'N';
  *   char area[2];
  *   StrToGram("MS#12", &code, table.GetGramInfo(), table.GetSemantics(), 'N', area);
- *   table.GetGender();   // 1, masculine
+ *   printf("%d\n", table.GetGender());  // prints "1", masculine
  */
 #ifndef KZ_GRAM_RECORD_H
 #define KZ_GRAM_RECORD_H

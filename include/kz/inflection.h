@@ -5,10 +5,11 @@
 // Find gives the entry of the longest known ending of a word. docs/tables.md describes both files.
 // Text is Windows-1251. The table of a language is set up by one thread before others use it.
 //
-//     CGrSrcWordFlex* table = GetRuSrcFlex();
-//     char text[GR_SRC_FLEX_STRING_SIZE];
-//     if (table->Load("ru.Dat", "/usr/share/kz/", 1) == 0 && table->FindStrAttr(word, text, 0))
-//       puts(text);
+//   CGrSrcWordFlex* table = GetRuSrcFlex();
+//   char word[] = "cnjkfvb", text[GR_SRC_FLEX_STRING_SIZE];
+//   strruscase(word);  // the keys of the word столами
+//   if (table->Load("ruflex.Dat", "./", 1) == 0 && table->FindStrAttr(word, text, 0))
+//     puts(text);  // prints "ами NM 1  | NF 1  | N 1  | NP 1 "
 #ifndef KZ_INFLECTION_H
 #define KZ_INFLECTION_H
 

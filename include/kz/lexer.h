@@ -5,9 +5,10 @@
 // GetAtStr). CStrLine takes the lines between carriage return and line feed. A lexer serves one
 // thread at a time.
 //
-//     CStrLex lex(";,");
-//     char token[80];
-//     for (const char* at = lex.First("a;b,,c", token); at; at = lex.Next(token)) puts(token);
+//   CStrLex lex(";,");
+//   char token[80];
+//   for (const char* at = lex.First("a;b,,c", token); at; at = lex.Next(token))
+//     puts(token);  // prints "a", "b", "c"
 #ifndef KZ_LEXER_H
 #define KZ_LEXER_H
 

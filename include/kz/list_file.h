@@ -4,9 +4,9 @@
 // order of the lines. Find looks up the first item whose word begins a given text; First and Next
 // walk through the list. docs/tables.md describes the file.
 //
-//     CListFile list;
-//     if (list.Load("units.txt", "/usr/share/kz/") == 0)
-//       if (const char* unit = list.Find(text)) puts(unit);
+//   CListFile list;
+//   if (list.Load("units.txt", "./") == 0)
+//     if (const char* unit = list.Find("km/h")) puts(unit);  // prints "kilometre"
 #ifndef KZ_LIST_FILE_H
 #define KZ_LIST_FILE_H
 

@@ -5,11 +5,15 @@
 // with about as many buckets as keys are to come, before the first one. A map serves one thread at
 // a time. A short example:
 //
-//     ZCMapStringToOb map;
-//     map["table"] = &object;
-//     ZCString key;
-//     ZCObject* value;
-//     for (POSITION at = map.GetStartPosition(); at != nullptr;) map.GetNextAssoc(at, key, value);
+//   ZCMapStringToOb map;
+//   ZCObArray tables;
+//   map["table"] = &tables;
+//   ZCString key;
+//   ZCObject* value;
+//   for (POSITION at = map.GetStartPosition(); at != nullptr;) {
+//     map.GetNextAssoc(at, key, value);
+//     puts(key);  // prints "table"
+//   }
 #ifndef KZ_MAP_H
 #define KZ_MAP_H
 

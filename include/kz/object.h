@@ -2,6 +2,13 @@
 //
 // Object arrays and maps (kz/array.h, kz/map.h) hold pointers to it. They never own what they
 // point to; the virtual destructor lets an owner delete an object through such a pointer.
+//
+//   struct Word : ZCObject {
+//     ~Word() override { puts("deleted"); }  // prints "deleted"
+//   };
+//   ZCObArray words;
+//   words.Add(new Word);
+//   delete words.GetAt(0);
 #ifndef KZ_OBJECT_H
 #define KZ_OBJECT_H
 

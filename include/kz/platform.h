@@ -5,8 +5,12 @@
  * standard error as one line and counts as answered with OK. Handlers must not throw. Set the
  * handlers before other threads use the library:
  *
- *   static int show(const char* text, const char* caption, unsigned int type, void* window);
- *   kz_platform_set_message_box(show, window);
+ *   static int show(const char* text, const char* caption, unsigned int type, void* window) {
+ *     printf("%s: %s\n", caption, text);  // prints "Message: Saved"
+ *     return 1;
+ *   }
+ *   kz_platform_set_message_box(show, 0);
+ *   MsgBox("Saved", 0, 0);
  */
 #ifndef KZ_PLATFORM_H
 #define KZ_PLATFORM_H

@@ -8,7 +8,9 @@
  *   KZQUE queue;
  *   initque(&queue);
  *   enque(&queue, newqueobj(5));
- *   for (KZQUEOBJ* one; (one = deque(&queue)) != NULL; kz_misc_free(one)) use(one->data);
+ *   enque(&queue, newqueobj(7));
+ *   for (KZQUEOBJ* one; (one = deque(&queue)) != NULL; kz_misc_free(one))
+ *     printf("%d\n", (int)one->data);  // prints "5", "7"
  */
 #ifndef KZ_QUEUE_H
 #define KZ_QUEUE_H

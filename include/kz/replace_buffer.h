@@ -2,10 +2,12 @@
  *
  * CFindBuffer holds the list as one text, loads and saves it, tells whether a word is listed and
  * what replaces it; ChangeWord replaces every listed word in a text. Text is Windows-1251, words
- * are compared exactly. docs/tables.md describes the file.
+ * are compared exactly. docs/tables.md describes the file. In C++:
  *
  *   CFindBuffer list(0);
- *   if (list.Load("replace.txt") == 0) ChangeWord(&list, source, output);
+ *   char output[64];
+ *   if (list.Load("replace.txt") == 0)
+ *     puts(ChangeWord(&list, "the cat", output));  // prints "the dog"
  *
  * The text begins with "\r\n", lines end with "\r\n". A line is a word, or a word, "=" and its
  * replacement, which may be empty. The text holds fewer than 16,000 characters behind its leading

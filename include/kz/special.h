@@ -8,7 +8,8 @@
  * 255.
  *
  *   char word[] = "Mu\"ller";
- *   kz_codr_create_spec_chars(word, word, "DERU");   // now six letters, with the umlaut
+ *   kz_codr_create_spec_chars(word, word, "DERU");
+ *   printf("%d letters\n", (int)strlen(word));  // prints "6 letters", the umlaut is one
  */
 #ifndef KZ_SPECIAL_H
 #define KZ_SPECIAL_H

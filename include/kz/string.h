@@ -5,12 +5,13 @@
 // of case change, caseless comparison, character classes and ANSI/OEM conversion. The text is
 // Windows-1251 or Windows-1252 (ANSI), or CP866 or CP850 (OEM); nothing depends on the locale.
 //
-//     ZCString word("Tables");
-//     word.SetLanguage(1033);              // English
-//     word.MakeLower();                    // "tables"
-//     if (word.IsFlex("s")) word = word.Left(word.GetLength() - 1);
-//     ZCString message;
-//     message.Format("%s: %d characters", static_cast<const char*>(word), word.GetLength());
+//   ZCString word("Tables");
+//   word.SetLanguage(1033);  // English
+//   word.MakeLower();
+//   if (word.IsFlex("s")) word = word.Left(word.GetLength() - 1);
+//   ZCString message;
+//   message.Format("%s: %d characters", static_cast<const char*>(word), word.GetLength());
+//   puts(message);  // prints "table: 5 characters"
 //
 // Rules that hold for every operation:
 // - Positions and lengths are `int` and count characters from 0; truth values are 1 or 0.

@@ -7,9 +7,10 @@
  * A null source counts as empty.
  *
  *   char line[64];
- *   char* end = strcpy_rn(line, "one\r\ntwo ");    // "one\ntwo ", end is at its final zero
- *   strcpydel(end, "1,000", ',');                  // "one\ntwo 1000"
- *   SetExt(line, "c:\\work\\list.txt", ".bak");    // "c:\work\list.bak"
+ *   char* end = strcpy_rn(line, "one\r\ntwo ");
+ *   strcpydel(end, "1,000", ',');
+ *   puts(line);  // prints "one", "two 1000"
+ *   puts(SetExt(line, "c:\\work\\list.txt", ".bak"));  // prints "c:\work\list.bak"
  */
 #ifndef KZ_STRUTIL_H
 #define KZ_STRUTIL_H

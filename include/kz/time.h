@@ -4,9 +4,9 @@
 // the host's own time type. Calendar fields are local time by the time zone of the process. File
 // times (ZCFileStatus in kz/file.h) are ZCTime values, where 0 stands for a missing time.
 //
-//   ZCTime start = ZCTime::GetTickCount();
-//   ZCTimeSpan age = ZCTime::GetTickCount() - ZCTime(2000, 1, 1, 0, 0, 0, -1);
-//   ZCString text = age.Format("%D days %H:%M:%S");
+//   ZCTime start(2000, 1, 1, 0, 0, 0, -1);
+//   ZCTimeSpan age = ZCTime(2000, 1, 3, 12, 0, 0, -1) - start;
+//   puts(age.Format("%D days %H:%M:%S"));  // prints "2 days 12:00:00"
 //
 // Range: a moment before 1901-12-13 or after 2038-01-19 (UTC) does not fit the count. Conversions
 // from a calendar or file time give the nearest end of the range then; adding and subtracting

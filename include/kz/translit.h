@@ -6,9 +6,11 @@
  * the wrong one of the Russian and the Latin keyboard, or written with letters of the other
  * alphabet that look the same. Russian text is Windows-1251.
  *
- *   char name[32];
- *   strtransliterateenrusmart("Washington", name, 1);    // Washington in Russian letters
- *   xliteratr(name, name_in_russian, 0);                 // and in Latin letters
+ *   char name[32], latin[32];
+ *   strtransliterateenrusmart("Washington", name, 1);
+ *   puts(name);  // prints "Уошингтон"
+ *   xliteratr(latin, name, 0);
+ *   puts(latin);  // prints "Uoshington"
  */
 #ifndef KZ_TRANSLIT_H
 #define KZ_TRANSLIT_H

@@ -1,7 +1,12 @@
 /* Handle types of the plain functions, for C and C++.
  *
  * A handle is the address of the object that it names; C callers see the types as incomplete
- * structures, C++ callers may include the header of the class itself. */
+ * structures, C++ callers may include the header of the class itself.
+ *
+ *   CDic* dictionary = DicOpen("pets.dic", DIC_MODE_PLAIN);
+ *   puts(DicGetPath(dictionary));  // prints "pets.dic"
+ *   DicClose(dictionary);
+ */
 #ifndef KZ_TYPES_H
 #define KZ_TYPES_H
 
