@@ -74,7 +74,7 @@ inline constexpr RuleText rule_texts[] = {
 
     {'f', "", U"ф"_1251},
 
-    {'g', "[eiy]", U"дж"_1251},
+    {'g', "[eiy]", U"дж"_1251, 2},
     {'g', "h", ""},
     {'g', "", U"г"_1251},
 
@@ -122,7 +122,6 @@ inline constexpr RuleText rule_texts[] = {
     {'s', "", U"с"_1251},
 
     {'t', "he_", "", 3, Place::start},  // the article at the start of a text
-    {'t', "h_", U"т"_1251, 2},
     {'t', "h", U"т"_1251, 2, Place::behind_no_vowel},
     {'t', "he", U"зе"_1251, 3},
     {'t', "h", U"т"_1251, 2},
@@ -227,6 +226,7 @@ consteval Kinds take_sign(std::string_view& pattern) {
 }
 
 consteval Rule compile(const RuleText& text) {
+  if (text.size == 0) throw "a rule that consumes nothing, at which the walk would stay";
   Rule rule{.size = text.size, .place = text.place};
   for (std::string_view pattern = text.follow; !pattern.empty();) {
     const bool behind_end =
