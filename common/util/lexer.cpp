@@ -59,6 +59,7 @@ const char* CStrLex::NextStr() {
 }
 
 const char* CStrLex::GetAtStr(int index) {
+  if (index < 0) return token_ = "";
   const std::uint32_t number = number_;
   number_ = static_cast<std::uint32_t>(index);
   GetStr();

@@ -49,7 +49,8 @@ class KZ_API CStrLex {
   const char* FirstStr(const char* text);
   // Counts the number up by one and returns that token, as GetStr.
   const char* NextStr();
-  // The token of that number; the number counted so far stays. Valid as in GetStr.
+  // The token of that number, an empty text for a negative one; the number counted so far stays.
+  // Valid as in GetStr.
   const char* GetAtStr(int index);
   // The token of the number counted so far, valid until the next call. A number beyond the last
   // token gives the last token; an empty text when the text ends with a delimiter. Each call scans
