@@ -78,7 +78,7 @@ struct ArrayCore {
   }
 
   static void copy(Array& array, const Array& other) {
-    if (&array == &other || !set_size(array, other.size_)) return;
+    if (!set_size(array, other.size_) || &array == &other) return;
     std::copy_n(other.data_, other.size_, array.data_);
   }
 

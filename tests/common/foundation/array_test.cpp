@@ -157,6 +157,8 @@ void operate(Array& array, Model& model, Array& other, const Model& other_model,
       return model.insert(size, own);
     case 8:
       array.Copy(array);
+      model.set_size(size);
+      expect_same(array, model);
       array.Copy(other);
       model.set_size(other_model.size());
       model.elements = other_model.elements;
