@@ -4,19 +4,19 @@
 #include <climits>
 #include <cstdarg>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <optional>
 #include <string_view>
 
 #include "foundation/string_data.h"
+#include "platform/format.h"
 
 namespace {
 
-// Every plain character counts the whole rest of the format. Where that goes beyond this, in
-// formats of thousands of characters, the format is counted once instead.
-constexpr std::int64_t kMaxPlain = 16 << 20;
+// Every plain character counts the whole rest of the format, which in formats of thousands of
+// characters is megabytes. Beyond this only the length of the format counts.
+constexpr std::int64_t kMaxPlain = 64 << 10;
 
 // What the format takes from the caller, walked beside it.
 using Arguments = std::va_list*;
@@ -156,7 +156,7 @@ std::int64_t estimate(const char* format, Arguments arguments) {
       ++format;
     }
   }
-  return items + (plain <= kMaxPlain ? plain : format_length);
+  return items + (plain <= kMaxPlain ? plain : std::max(kMaxPlain, format_length));
 }
 
 }  // namespace
@@ -173,7 +173,8 @@ void ZCString::Format(const char* format, ...) noexcept {
   std::unique_ptr<char[]> long_text;
   const char* text = short_text.data();
   va_start(arguments, format);
-  const int needed = std::vsnprintf(short_text.data(), short_text.size(), format, arguments);
+  const int needed =
+      kz::platform::format_text(short_text.data(), short_text.size(), format, arguments);
   va_end(arguments);
   if (needed < 0) {
     text = "";
@@ -181,7 +182,7 @@ void ZCString::Format(const char* format, ...) noexcept {
     const std::size_t size = static_cast<std::size_t>(needed) + 1;
     long_text = std::make_unique_for_overwrite<char[]>(size);
     va_start(arguments, format);
-    std::vsnprintf(long_text.get(), size, format, arguments);
+    kz::platform::format_text(long_text.get(), size, format, arguments);
     va_end(arguments);
     text = long_text.get();
   }

@@ -1,10 +1,11 @@
 // The clock and the calendar on POSIX systems.
 #include "platform/calendar.h"
 
-#include <locale.h>
 #include <time.h>
 
 #include <limits>
+
+#include "platform/posix_locale.h"
 
 namespace kz::platform {
 namespace {
@@ -14,11 +15,6 @@ bool break_down(std::int64_t moment, Zone zone, struct tm& fields) {
   if (zone == Zone::utc) return gmtime_r(&seconds, &fields) != nullptr;
   tzset();  // the reentrant function need not look whether TZ has changed
   return localtime_r(&seconds, &fields) != nullptr;
-}
-
-locale_t c_locale() {
-  static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-  return locale;
 }
 
 }  // namespace

@@ -180,10 +180,10 @@ class KZ_API ZCString {
   // itself. The length stays, although the character '~' becomes NUL.
   void Code() noexcept;
   void DeCode() noexcept;
-  // Replaces the contents by the text formatted by the rules of vsprintf, cut at its first NUL. The
-  // arguments may come from this string; a null text is written as "(null)". Room is reserved by a
-  // generous estimate per item, at least for the formatted text; a text that cannot be formatted
-  // leaves the string empty.
+  // Replaces the contents by the text formatted by the rules of vsprintf and the "C" locale, cut
+  // at its first NUL. The arguments may come from this string; a null text is written as "(null)".
+  // Room is reserved by a generous estimate per item, at least for the formatted text; a text that
+  // cannot be formatted leaves the string empty.
   void Format(const char* format, ...) noexcept;
 
   // --- Comparison and tests ---

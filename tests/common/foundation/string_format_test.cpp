@@ -1,16 +1,20 @@
-// ZCString::Format: the text of snprintf, in the room of the estimate.
+// ZCString::Format: the text of snprintf in the "C" locale, in the room of the estimate.
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <clocale>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cwchar>
 #include <string>
 #include <vector>
 
 #include "kz/string.h"
+#include "kz/time.h"
+#include "tests/support/temp_dir.h"
 
 namespace {
 
@@ -98,6 +102,9 @@ TEST(StringFormat, RoomFollowsTheEstimate) {
       {room("%ls", L"wide"), 4},
       {room(""), 0},
       {room("%f", 1e300), 308},
+      {room(std::string(100, 'x').c_str()), 5050},
+      {room(std::string(5000, 'x').c_str()), 1 << 16},
+      {room(std::string(100000, 'x').c_str()), 100000},
   };
   for (std::size_t i = 0; i < std::size(cases); ++i) {
     EXPECT_EQ(cases[i].room, cases[i].expected) << "case " << i;
@@ -134,9 +141,24 @@ TEST(StringFormat, TheTextEndsAtItsFirstNulAndAtWhatCannotBeFormatted) {
   EXPECT_EQ(text.GetLength(), 0);
 }
 
-TEST(StringFormat, LongFormatsReserveReasonably) {
-  const std::string format(100000, 'x');
-  EXPECT_EQ(room(format.c_str()), 100000);
+TEST(StringFormat, FollowsNoLocaleOfTheProcess) {
+  const kz::test::TempDir place;
+  const std::string make = "localedef -i de_DE -f ISO-8859-1 --no-archive ";
+  ASSERT_EQ(std::system((make + place.file("de_DE")).c_str()), 0);
+  setenv("LOCPATH", place.file("").c_str(), 1);
+  const char* const set = std::setlocale(LC_ALL, "de_DE");
+  const std::string before = std::to_string(1.5);
+  ZCString number;
+  number.Format("%.1f", 1.5);
+  const ZCString day = ZCTime(0).FormatGmt("%A");
+  const std::string after = std::to_string(1.5);
+  std::setlocale(LC_ALL, "C");
+  unsetenv("LOCPATH");
+  ASSERT_NE(set, nullptr);
+  EXPECT_EQ(before, "1,500000") << "not the locale that was made";
+  EXPECT_STREQ(number, "1.5");
+  EXPECT_STREQ(day, "Thursday");
+  EXPECT_EQ(after, before) << "the locale of the process did not stay";
 }
 
 }  // namespace
