@@ -4,8 +4,8 @@
 
 namespace kz::platform {
 
-// Shows a message and returns the identifier of the button pressed (1 for OK, the answer when the
-// host has set no handler). Texts are Windows-1251; a null text counts as empty.
+// Shows a message and returns the identifier of the button pressed (of the first one when the host
+// has set no handler). Texts are Windows-1251; a null text counts as empty.
 // An exception of the host's handler ends the process.
 int message_box(const char* text, const char* caption, unsigned int type) noexcept;
 

@@ -14,7 +14,9 @@
 namespace kz::platform {
 namespace {
 
-constexpr int kAnswerOk = 1;
+// The identifier of the first button, by the style's bits 0 to 3: OK, OK and Cancel; Abort, Retry
+// and Ignore; Yes, No and Cancel; Yes and No; Retry and Cancel; OK for any other style.
+constexpr std::array<int, 16> kFirstButton = {1, 1, 3, 6, 6, 4, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
 
 struct Handlers {
   kz_message_box_handler message_box = nullptr;
@@ -79,7 +81,7 @@ int message_box(const char* text, const char* caption, unsigned int type) noexce
   line += '\n';
   write_file(STDERR_FILENO, line.data(), line.size());
   errno = error;
-  return kAnswerOk;
+  return kFirstButton[type & 0xFU];
 }
 
 void beep(unsigned int type) noexcept {

@@ -2,8 +2,9 @@
  *
  * The library has no user interface. A message (ZMessageBox in kz/string.h, MsgBox in
  * kz/strutil.h) goes to the handler that the host has set here; without one it is written to
- * standard error as one line and counts as answered with OK. Handlers must not throw. Set the
- * handlers before other threads use the library:
+ * standard error as one line and counts as answered with the first button (Yes of Yes and No, Abort
+ * of Abort, Retry and Ignore). Handlers must not throw. Set the handlers before other threads use
+ * the library:
  *
  *   static int show(const char* text, const char* caption, unsigned int type, void* window) {
  *     printf("%s: %s\n", caption, text);  // prints "Message: Saved"

@@ -29,11 +29,21 @@ TEST(MessageBox, HandlerGetsTheTextsAndAnswers) {
   kz_platform_set_message_box(nullptr, nullptr);
 }
 
-TEST(MessageBox, WithoutHandlerIsOneLineOfUtf8AnsweredWithOk) {
+TEST(MessageBox, WithoutHandlerIsOneLineOfUtf8AnsweredWithTheFirstButton) {
   testing::internal::CaptureStderr();
-  EXPECT_EQ(ZMessageBox(U"Ёлки — «да»\r\nи №5"_1251.data(), U"Сообщение"_1251.data(), 0x31), 1);
-  EXPECT_EQ(ZMessageBox(nullptr, nullptr, 0), 1);
+  ZMessageBox(U"Ёлки — «да»\r\nи №5"_1251.data(), U"Сообщение"_1251.data(), 0x31);
+  ZMessageBox(nullptr, nullptr, 0);
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "Сообщение: Ёлки — «да» и №5\n\n");
+
+  // By the buttons: OK twice, Abort, Yes twice, Retry; OK for styles that there are not.
+  const int first_buttons[] = {1, 1, 3, 6, 6, 4, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
+  testing::internal::CaptureStderr();
+  for (unsigned style = 0; style < 16; ++style) {
+    for (const unsigned icon : {0x00u, 0x20u, 0x140u}) {
+      EXPECT_EQ(ZMessageBox("text", "caption", icon | style), first_buttons[style]) << style;
+    }
+  }
+  testing::internal::GetCapturedStderr();
 }
 
 }  // namespace
