@@ -34,13 +34,13 @@ class Columns {
 };
 
 void write_name(Columns& columns, std::string_view path) {
-  const std::size_t separator = path.find_last_of("\\:");
+  const std::size_t separator = path.find_last_of("\\/:");
   if (separator != std::string_view::npos) path.remove_prefix(separator);
   const std::size_t dot = path.rfind('.');
   const bool has_extension = dot != std::string_view::npos && dot != 0;
 
   std::string_view name = path.substr(0, has_extension ? dot : path.size()).substr(0, kNameLength);
-  if (name.starts_with('\\')) name.remove_prefix(1);
+  if (name.starts_with('\\') || name.starts_with('/')) name.remove_prefix(1);
   columns.write(name);
   if (has_extension) columns.write(path.substr(dot));
 }

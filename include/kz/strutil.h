@@ -115,11 +115,10 @@ KZ_API int MsgBox(const char* text, unsigned int style, unsigned int language);
 KZ_API void beep(void);
 /* Makes the title line of a generated file: 72 characters and a zero byte. From the left the names
  * and extensions of the two paths in capitals (A to Z), one blank between them; second_path may be
- * null. What stands before the last '\' or ':' of a path is left out (a '/' is a character like any
- * other); a name has at most 8 characters counting that separator, which is written if it is a ':'.
- * At the right the local time as "Jan 02 12:34:56 2005" and a line feed; names that reach so far
- * are overwritten by it. output has room for 73 bytes. Returns the position of the terminating
- * zero. */
+ * null. What stands before the last '\', '/' or ':' of a path is left out; a name has at most 8
+ * characters counting that separator, which is written if it is a ':'. At the right the local time
+ * as "Jan 02 12:34:56 2005" and a line feed; names that reach so far are overwritten by it. output
+ * has room for 73 bytes. Returns the position of the terminating zero. */
 KZ_API char* init_header(char* output, const char* first_path, const char* second_path);
 
 /* ---- Memory and error state ------------------------------------------------------------------ */

@@ -254,7 +254,8 @@ TEST(TitleLine, HoldsTheNamesAndTheTime) {
       {"", "b", " B"},
       {nullptr, "", ""},
       {"a.b\\c", "a.", "C A."},
-      {"a/b.c", "d:e/f", "A/B.C :E/F"},  // a slash separates nothing here
+      {"/home/user.name/list.txt", "d:e/f", "LIST.TXT F"},
+      {"a\\b/verylongname.txt", "a/b\\.c", "VERYLON.TXT .C"},
   };
   for (const auto& [first, second, names] : cases) {
     std::string before, line;
