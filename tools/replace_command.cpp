@@ -25,7 +25,7 @@ class Words {
     switch (buffer_.Load(path.c_str())) {
       case DIC_OK: break;
       case DIC_ERR_FORMAT:
-        throw Failure(Status::kDamaged, path + ": not shorter than " +
+        throw Failure(Status::kDamaged, path + ": has a zero byte or is not shorter than " +
                                             std::to_string(REPLACE_BUFFER_LIMIT) + " bytes");
       default: throw Failure(Status::kFile, path + ": cannot read");
     }

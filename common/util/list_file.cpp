@@ -1,6 +1,7 @@
 // CListFile: pairs of words from a text file.
 #include "util/list_file.h"
 
+#include <cstddef>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -49,8 +50,14 @@ std::int16_t CListFile::_LoadList(const char* path) {
   if (path == nullptr || *path == '\0') return DIC_ERR_MEMORY;
   ZCFile file;
   if (!file.Open(path, kReadDenyingWrite)) return DIC_ERR_FILE;
+  const int held = items_.GetSize();
   ZCString line;
   while (const char* const text = file.ReadString(line)) {
+    if (std::strlen(text) != static_cast<std::size_t>(line.GetLength())) {
+      for (int i = held; i < items_.GetSize(); ++i) delete items_.GetAt(i);
+      items_.SetSize(held);
+      return DIC_ERR_FORMAT;
+    }
     if (kz::is_table_line(text)) items_.Add(make_item(text));
   }
   return DIC_OK;

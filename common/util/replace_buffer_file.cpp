@@ -1,5 +1,6 @@
 // Files of replacement buffers: read and written as a whole.
 #include <cstdint>
+#include <cstring>
 
 #include "kz/dic_error.h"
 #include "kz/file.h"
@@ -19,6 +20,7 @@ std::int16_t LoadBuffer(const char* path, char* destination) {
   const std::uint32_t length = file.GetLength();
   if (length >= REPLACE_BUFFER_LIMIT) return DIC_ERR_FORMAT;
   if (file.Read(destination, length) != length) return DIC_ERR_FORMAT;
+  if (std::memchr(destination, '\0', length) != nullptr) return DIC_ERR_FORMAT;
   destination[length] = destination[length + 1] = '\0';
   return DIC_OK;
 }

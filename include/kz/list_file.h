@@ -47,7 +47,7 @@ class KZ_API CListFile {
   // unless the directory is null. 0 on success, else the result of the last _LoadList.
   std::int16_t Load(const char* name, const char* directory);
   // Appends the items of the file of that path. 0 on success; 195 when it cannot be opened, 196
-  // for a null or empty path.
+  // for a null or empty path, 202, without any of its items, when it has a zero byte.
   std::int16_t _LoadList(const char* path);
 
   // The first item whose word the text begins with, exactly; an empty word begins every text. It

@@ -128,7 +128,7 @@ typedef struct CFindBuffer CFindBuffer;
 
 /* Reads a file to the destination and puts two zero bytes behind it: room for 16,001 bytes. 0 on
  * success; 196 for a null argument, 195 when the file cannot be opened, 202 when it has 16,000
- * bytes or more or cannot be read in full. */
+ * bytes or more, has a zero byte or cannot be read in full. */
 KZ_API int16_t LoadBuffer(const char* path, char* destination);
 
 /* Makes the text the contents of a file, in one step. 0 on success; 196 for a null argument, 195

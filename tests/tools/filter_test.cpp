@@ -239,8 +239,9 @@ TEST(Replace, AppliesTheBufferAndRefusesBadOnes) {
   make("unix", "a=b\nc=d\n");
   place.write("page", "a=\x98\r\n");
   place.write("long", std::string(16'000, 'a'));
-  const std::pair<const char*, int> refused[] = {
-      {"unix", 4}, {"page", 4}, {"long", 4}, {"absent", 3}, {".", 3}};
+  place.write("zero", std::string("a=b\r\n\0", 6));
+  const std::pair<const char*, int> refused[] = {{"unix", 4}, {"page", 4},   {"long", 4},
+                                                 {"zero", 4}, {"absent", 3}, {".", 3}};
   for (const auto& [name, status] : refused) {
     const Outcome outcome = place.kzdic({"replace", name}, "a\n");
     EXPECT_EQ(outcome.status, status) << name;

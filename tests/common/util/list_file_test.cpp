@@ -113,6 +113,14 @@ TEST_F(ListFileTest, LoadTriesTheNameAndThenTheDirectory) {
   EXPECT_EQ(list.Find("a"), nullptr);
   EXPECT_EQ(list.Find(nullptr), nullptr);
 
+  // A zero byte is no text, wherever it is; what was held stays.
+  for (const std::string_view damaged :
+       {std::string_view("ac x\nad\0e y\nae z\n", 17), std::string_view("ac x\n* \0\n", 9)}) {
+    const std::string bad = write("bad.txt", damaged);
+    EXPECT_EQ(list.Load(bad.c_str(), nullptr), 202);
+    EXPECT_EQ(pairs_of(list), (Pairs{{"abc", "xyz"}, {"ab", "q"}, {"abx", ""}}));
+  }
+
   list.GetList()->Add(new CListItem("", "any"));
   EXPECT_STREQ(list.Find(""), "any");
   list.FreeList();

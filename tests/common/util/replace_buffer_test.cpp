@@ -236,8 +236,11 @@ TEST_F(ReplaceBufferTest, FilesAreReadWhole) {
   };
   buffer_.SetModified(5);
   buffer_.Add("old");
-  EXPECT_EQ(load(std::string(16000, 'x')), 202);
-  EXPECT_STREQ(buffer_.GetBuffer(), "\r\n");
+  for (const std::string& refused :
+       {std::string(16000, 'x'), std::string("a\r\n\0b\r\n", 7), std::string("a\r\n\0", 4)}) {
+    EXPECT_EQ(load(refused), 202);
+    EXPECT_STREQ(buffer_.GetBuffer(), "\r\n");
+  }
   buffer_.Add("old");
   EXPECT_EQ(buffer_.Load(dir_.file("none").c_str()), 195);
   EXPECT_STREQ(buffer_.GetBuffer(), "\r\n");
