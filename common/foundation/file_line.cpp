@@ -1,8 +1,7 @@
 // Line reading: read ahead, with the position behind the line in the end.
 //
-// A regular file is scanned for the line end by reads that leave its position alone, and the
-// position moves once, when the line is known; so nothing read ahead is ever lost, also not to
-// another handle with the same position. Pipes and devices are read byte by byte.
+// A regular file is read in chunks until the line end is found, and the position then moves back to
+// it: two calls of the system for most lines. Pipes and devices are read byte by byte.
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -16,10 +15,9 @@ namespace platform = kz::platform;
 
 namespace {
 
-// What stands from the position on: `size` characters, of which `taken` bytes are the line with its
-// end. Nothing taken and no failure: the end of the file.
+// What was found from the position on: `size` characters, of which `taken` bytes are the line with
+// its end. Nothing taken and no failure: the end of the file.
 struct Line {
-  std::int64_t start = 0;
   std::int64_t size = 0;
   std::int64_t taken = 0;
   bool failed = false;
@@ -33,16 +31,15 @@ class LineScanner {
   // or the character at index `limit`, which is taken with the line like a line feed.
   Line scan(std::int64_t limit) {
     Line line;
-    line.start = platform::position(handle_);
     while (true) {
-      const auto [count, ok] =
-          platform::read_at(handle_, chunk_.data(), chunk_.size(), line.start + line.size);
+      const auto [count, ok] = platform::read_once(handle_, chunk_.data(), chunk_.size());
       if (!ok || count == 0) {
         line.taken = line.size;
         line.failed = !ok;
         return line;
       }
       chunk_start_ = line.size;
+      moved_ += static_cast<std::int64_t>(count);
       const std::int64_t room = limit - line.size;
       const bool cut = static_cast<std::int64_t>(count) > room;
       const auto searched = cut ? static_cast<std::size_t>(room) : count;
@@ -52,7 +49,7 @@ class LineScanner {
         line.taken = line.size + 1;
         return line;
       }
-      line.size += static_cast<std::int64_t>(count);
+      line.size = moved_;
     }
   }
 
@@ -61,23 +58,32 @@ class LineScanner {
   std::size_t take(const Line& line, char* characters) {
     const auto size = static_cast<std::size_t>(line.size);
     std::size_t done = 0;
-    if (chunk_start_ == 0 && size <= chunk_.size()) {
+    if (chunk_start_ == 0) {
       std::memcpy(characters, chunk_.data(), size);
       done = size;
+    } else {
+      const std::int64_t start = platform::position(handle_) - moved_;
+      while (done < size) {
+        const auto offset = start + static_cast<std::int64_t>(done);
+        const std::size_t count =
+            platform::read_at(handle_, characters + done, size - done, offset).count;
+        if (count == 0) break;
+        done += count;
+      }
     }
-    while (done < size) {
-      const auto offset = line.start + static_cast<std::int64_t>(done);
-      const std::size_t count =
-          platform::read_at(handle_, characters + done, size - done, offset).count;
-      if (count == 0) break;
-      done += count;
-    }
-    platform::set_position(handle_, line.start + line.taken);
+    leave_at(line.taken);
     return done;
+  }
+
+  // Moves the position to an offset from where the scan began.
+  void leave_at(std::int64_t offset) {
+    if (offset != moved_) platform::move_position(handle_, offset - moved_);
+    moved_ = offset;
   }
 
  private:
   int handle_;
+  std::int64_t moved_ = 0;        // the way of the position since the scan began
   std::int64_t chunk_start_ = 0;  // where in the line the chunk begins
   std::array<char, 1024> chunk_;
 };
@@ -97,6 +103,17 @@ Line read_bytes(int handle, std::int64_t limit, Store store) {
     if (line.size >= limit || ch == '\n') return line;
     store(line.size++, ch);
   }
+}
+
+// The truth value of a file that closes its handle, once that is known to be of a regular file: no
+// further line asks the system.
+constexpr std::int32_t kCloseRegular = 2;
+
+bool is_regular(int handle, std::int32_t& close_on_delete) {
+  if (close_on_delete == kCloseRegular) return true;
+  if (!platform::is_regular(handle)) return false;
+  if (close_on_delete != 0) close_on_delete = kCloseRegular;
+  return true;
 }
 
 std::size_t without_return(const char* line, std::size_t size) {
@@ -123,7 +140,7 @@ char* finish(ZCString& line, char* characters, std::size_t size, const Line& rea
 
 char* ZCFile::ReadString(ZCString& line) {
   line.Empty();
-  if (!platform::is_regular(handle_)) {
+  if (!is_regular(handle_, close_on_delete_)) {
     std::string text;
     const Line read =
         read_bytes(handle_, kLongestLine, [&text](std::int64_t, char ch) noexcept { text += ch; });
@@ -136,6 +153,7 @@ char* ZCFile::ReadString(ZCString& line) {
   const Line found = scanner.scan(kLongestLine);
   if (found.taken == 0) return nullptr;
   if (found.size == kLongestLine) {
+    scanner.leave_at(0);
     errno = EOVERFLOW;
     return nullptr;
   }
@@ -146,7 +164,7 @@ char* ZCFile::ReadString(ZCString& line) {
 char* ZCFile::ReadString(char* buffer, unsigned int max) {
   Line read;
   std::size_t size;
-  if (platform::is_regular(handle_)) {
+  if (is_regular(handle_, close_on_delete_)) {
     LineScanner scanner(handle_);
     read = scanner.scan(max);
     size = scanner.take(read, buffer);

@@ -45,6 +45,8 @@ struct Transfer {
 // fewer bytes than wanted only at their end, others give what one call of the system gives.
 Transfer read_file(int handle, void* buffer, std::size_t count);
 Transfer write_file(int handle, const void* buffer, std::size_t count);
+// One call of the system, which may give fewer bytes than wanted; none at the end of the file.
+Transfer read_once(int handle, void* buffer, std::size_t count);
 // Reads at a position of a regular file, leaving the position of the handle alone.
 Transfer read_at(int handle, void* buffer, std::size_t count, std::int64_t position);
 
@@ -52,6 +54,7 @@ Transfer read_at(int handle, void* buffer, std::size_t count, std::int64_t posit
 bool is_regular(int handle);
 std::int64_t position(int handle);
 bool set_position(int handle, std::int64_t position);
+bool move_position(int handle, std::int64_t offset);
 // The length of a regular file.
 std::int64_t length(int handle);
 // Cuts or extends the file; the position stays.

@@ -110,14 +110,21 @@ bool close_file(int handle) { return close(handle) == 0; }
 
 int duplicate(int handle) { return fcntl(handle, F_DUPFD_CLOEXEC, 0); }
 
+Transfer read_once(int handle, void* buffer, std::size_t count) {
+  ssize_t n;
+  do {
+    n = read(handle, buffer, std::min(count, kLargestTransfer));
+  } while (n < 0 && errno == EINTR);
+  return n < 0 ? Transfer{0, false} : Transfer{static_cast<std::size_t>(n), true};
+}
+
 Transfer read_file(int handle, void* buffer, std::size_t count) {
   char* const bytes = static_cast<char*>(buffer);
   std::size_t done = 0;
   while (true) {
-    const ssize_t n = read(handle, bytes + done, std::min(count - done, kLargestTransfer));
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) return {done, false};
-    done += static_cast<std::size_t>(n);
+    const auto [n, ok] = read_once(handle, bytes + done, count - done);
+    done += n;
+    if (!ok) return {done, false};
     if (n == 0 || done == count || !is_regular(handle)) return {done, true};
   }
 }
@@ -152,6 +159,8 @@ std::int64_t position(int handle) { return lseek(handle, 0, SEEK_CUR); }
 bool set_position(int handle, std::int64_t position) {
   return lseek(handle, position, SEEK_SET) == position;
 }
+
+bool move_position(int handle, std::int64_t offset) { return lseek(handle, offset, SEEK_CUR) >= 0; }
 
 std::int64_t length(int handle) {
   struct stat status;
