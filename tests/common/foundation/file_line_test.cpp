@@ -54,12 +54,13 @@ std::optional<std::string> read_line(ZCFile& file) {
   return text(line);
 }
 
-// Checks as well that nothing behind the room of the line is touched.
+// Checks as well that nothing behind the line is touched; a line feed may be there.
 std::optional<std::string> read_line(ZCFile& file, unsigned limit, std::size_t expected_size) {
-  std::string buffer(limit + 2, '#');
+  std::string buffer(limit + 3, '#');
   if (file.ReadString(buffer.data(), limit) == nullptr) return std::nullopt;
+  EXPECT_EQ(buffer.find_first_not_of('#', expected_size + 2), std::string::npos);
   EXPECT_EQ(buffer.back(), '#');
-  EXPECT_EQ(buffer[std::min<std::size_t>(expected_size, limit)], '\0');
+  EXPECT_EQ(buffer[expected_size], '\0');
   return buffer.substr(0, expected_size);
 }
 

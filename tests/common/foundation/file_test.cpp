@@ -175,10 +175,19 @@ TEST_F(FileTest, NothingWorksWithoutAFile) {
   f.Close();
 }
 
+// The field behind the handle: whether the destructor closes the file.
+bool closes_on_delete(const ZCFile& file) {
+  std::int32_t value;
+  std::memcpy(&value, reinterpret_cast<const char*>(&file) + sizeof(void*) + 4, sizeof value);
+  return value != 0;
+}
+
 TEST_F(FileTest, CloseEmptiesThePathAndAbortKeepsCloseOnDelete) {
   const std::string name = file("a", "");
   ZCFile f(name.c_str(), 0);
+  EXPECT_TRUE(closes_on_delete(f));
   f.Close();
+  EXPECT_FALSE(closes_on_delete(f));
   EXPECT_EQ(f, -1);
   EXPECT_EQ(text(f.GetFilePath()), "");
   ASSERT_EQ(f.Open(name.c_str(), 0), 1);
@@ -186,6 +195,7 @@ TEST_F(FileTest, CloseEmptiesThePathAndAbortKeepsCloseOnDelete) {
   EXPECT_EQ(text(f.GetFileName()), "b.txt");
   f.Abort();
   EXPECT_EQ(f, -1);
+  EXPECT_TRUE(closes_on_delete(f));
   EXPECT_EQ(text(f.GetFilePath()), "");
   EXPECT_NE(ZCFile(name.c_str(), 2), -1);
 }

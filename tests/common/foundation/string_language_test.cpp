@@ -36,9 +36,10 @@ std::string changed(std::string_view text, int tag, void (ZCString::*change)()) 
   return bytes;
 }
 
-std::string changed_at(std::string_view text, int tag, void (ZCString::*change)(int)) {
+// The text with its second character changed.
+std::string changed_at_1(std::string_view text, int tag, void (ZCString::*change)(int)) {
   ZCString string = tagged(text, tag);
-  (string.*change)(0);
+  (string.*change)(1);
   return std::string(string);
 }
 
@@ -58,19 +59,13 @@ TEST(StringLanguage, CaseOfTheWholeStringFollowsTheTag) {
 }
 
 TEST(StringLanguage, CaseOfOneCharacterFollowsTheTag) {
-  EXPECT_EQ(changed_at(U"ёё"_1251, kRussian, &ZCString::ToUpper), U"Ёё"_1251);
-  EXPECT_EQ(changed_at(U"ЯЯ"_1251, kEnglish, &ZCString::ToLower), U"яЯ"_1251);
+  EXPECT_EQ(changed_at_1(U"яёё"_1251, kRussian, &ZCString::ToUpper), U"яЁё"_1251);
+  EXPECT_EQ(changed_at_1(U"ЁЯЯ"_1251, kEnglish, &ZCString::ToLower), U"ЁяЯ"_1251);
   for (const int tag : {kGerman, kFrench, 0, kOther}) {
-    EXPECT_EQ(changed_at(U"ÿÿ"_1252, tag, &ZCString::ToUpper), U"Ÿÿ"_1252);
-    EXPECT_EQ(changed_at(U"ŠŠ"_1252, tag, &ZCString::ToLower), U"šŠ"_1252);
-    EXPECT_EQ(changed_at(U"ё"_1251, tag, &ZCString::ToUpper), U"ё"_1251);
+    EXPECT_EQ(changed_at_1(U"äÿÿ"_1252, tag, &ZCString::ToUpper), U"äŸÿ"_1252);
+    EXPECT_EQ(changed_at_1(U"ÄŠŠ"_1252, tag, &ZCString::ToLower), U"ÄšŠ"_1252);
+    EXPECT_EQ(changed_at_1(U"zё"_1251, tag, &ZCString::ToUpper), U"zё"_1251);
   }
-  ZCString text = tagged("ab", kRussian);
-  for (const int index : {-1, 2, 3}) {
-    text.ToUpper(index);
-    text.ToLower(index);
-  }
-  EXPECT_STREQ(text, "ab");
 }
 
 TEST(StringLanguage, CodePageConversionFollowsTheTag) {
@@ -86,10 +81,10 @@ TEST(StringLanguage, CodePageConversionFollowsTheTag) {
 
 TEST(StringLanguage, ClassesOfOneCharacterFollowTheTag) {
   const auto classes = [](unsigned char c, int tag) {
-    const char text = static_cast<char>(c);
-    const ZCString string = tagged({&text, 1}, tag);
-    return std::to_string(string.IsAlpha(0)) + std::to_string(string.IsAlphaNum(0)) +
-           std::to_string(string.IsUpper(0)) + std::to_string(string.IsLower(0));
+    const char text[] = {' ', static_cast<char>(c)};
+    const ZCString string = tagged({text, 2}, tag);
+    return std::to_string(string.IsAlpha(1)) + std::to_string(string.IsAlphaNum(1)) +
+           std::to_string(string.IsUpper(1)) + std::to_string(string.IsLower(1));
   };
   for (const int tag : {kEnglish, kRussian, kGerman, kFrench, 0, kOther}) {
     const bool russian = tag == kEnglish || tag == kRussian;
@@ -102,8 +97,24 @@ TEST(StringLanguage, ClassesOfOneCharacterFollowTheTag) {
     EXPECT_EQ(classes(U'ß'_1252, tag), "1111");
     EXPECT_EQ(classes(' ', tag), "0000");
   }
-  const ZCString text = tagged("ab", kRussian);
-  EXPECT_EQ(text.IsAlpha(-1) + text.IsAlpha(2) + text.IsLower(3) + text.IsAlphaNum(2), 0);
+}
+
+TEST(StringLanguage, OnlyCharactersOfTheStringHaveACaseAndAClass) {
+  // Letters lie in the buffer behind the string, and in the tag in front of it.
+  ZCString text("abcd");
+  text.SetLanguage('q');
+  char* const characters = text.GetBuffer(4);
+  text.ReleaseBuffer(2);
+  const int tag = -static_cast<int>(sizeof(ZCStringData)) + 4;
+  for (const int index : {tag, -1, 2, 3}) {
+    text.ToUpper(index);
+    text.ToLower(index);
+    EXPECT_EQ(text.IsAlpha(index) + text.IsAlphaNum(index) + text.IsLower(index), 0) << index;
+    text.ToUpper(index);
+    EXPECT_EQ(text.IsUpper(index), 0) << index;
+  }
+  EXPECT_EQ(std::string(characters, 4), std::string("ab\0d", 4));
+  EXPECT_EQ(text.GetLanguage(), 'q');
 }
 
 TEST(StringLanguage, CaselessComparisonFollowsTheTag) {

@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <new>
 #include <random>
 #include <set>
+#include <vector>
 
 namespace {
 
@@ -107,6 +110,14 @@ TEST(GenId, IsEightIndependentPools) {
     }
   }
   EXPECT_EQ(CGenId().GetId(0), 0);
+
+  // An id that there is not leaves the memory around the pools alone.
+  std::vector<std::uint8_t> memory(32768 + sizeof ids + 32768, 0xFF);
+  auto* const inside = new (&memory[32768]) CGenId;
+  for (const int id : {-32768, -1, 256, 257, 32767}) {
+    inside->DelId(255, static_cast<std::int16_t>(id));
+  }
+  EXPECT_EQ(std::count(memory.begin(), memory.end(), 0xFF), 2 * 32768);
 }
 
 }  // namespace

@@ -111,6 +111,9 @@ TEST_F(ReplaceBufferTest, WordsAreFoundAndReplacedByTheirLines) {
   EXPECT_EQ(buffer_.Replace("", out_.data()), nullptr);
   EXPECT_EQ(buffer_.Replace(nullptr, nullptr), nullptr);
   EXPECT_EQ(buffer_.GetCorrected(), 3);
+  buffer_.SetCorrected(-8);
+  buffer_.Replace("x", out_.data());
+  EXPECT_EQ(buffer_.GetCorrected(), -7);
 
   ASSERT_EQ(buffer_.SetBuffer("ab\r\nabc=d\r\nlast"), 1);
   const char* text = buffer_.GetBuffer();

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "kz/file.h"
 #include "kz/platform.h"
 #include "text/literal.h"
 
@@ -278,18 +279,21 @@ TEST(TitleLine, LongNamesNeitherLeaveTheLineNorCoverTheTime) {
   }
 }
 
-TEST(Memory, BlocksAreZeroedAndCopied) {
-  auto* block = static_cast<char*>(kz_misc_calloc(30, 7));
+TEST(Memory, BlocksAreZeroedAndTextsCopied) {
+  void* const used = std::memset(kz_misc_malloc(3000), '#', 3000);
+  kz_misc_free(used);  // the next block is likely to be this one
+  auto* block = static_cast<char*>(kz_misc_calloc(30, 100));
   ASSERT_NE(block, nullptr);
-  EXPECT_EQ(std::count(block, block + 210, '\0'), 210);
+  EXPECT_EQ(std::count(block, block + 3000, '\0'), 3000);
   kz_misc_free(block);
-  char* copy = kz_misc_strdup("text");
+  char text[] = "text";
+  char* const copy = kz_misc_strdup(text);
+  text[0] = 'n';
   EXPECT_STREQ(copy, "text");
   kz_misc_free(copy);
   EXPECT_EQ(kz_misc_strdup(nullptr), nullptr);
-  kz_misc_free(nullptr);
-  kz_misc_free(kz_misc_malloc(1));
-  errno = ENOENT;
+  errno = 0;
+  EXPECT_EQ(ZCFile::Remove("/no/such/file"), 0);
   EXPECT_EQ(kz_misc_errno(), ENOENT);
 }
 
