@@ -124,10 +124,14 @@ class FullConversion : public LineFilter {
 
   void answer(const Block& block, std::string& out) override {
     const std::size_t size = out.size();
+    if (block.offset == 0) characters_before_ = 0;
+    std::size_t length = block.text.size();
     if (!bytes_.append(block.text, out)) {
       const std::u32string text = decode(block.text, from_);
       encode(text, out, [&](const Place& place) { lacking(text[place.at], place, block); });
+      length = text.size();
     }
+    characters_before_ += length;
     if (options_.check) out.resize(size);
   }
 
@@ -164,10 +168,11 @@ class FullConversion : public LineFilter {
   }
 
   void lacking(char32_t c, const Place& place, const Block& block) {
-    if (options_.replace) return;
+    if (options_.replace || (options_.check && block.rehearsal)) return;
+    const std::size_t column = place.column + (place.line == 1 ? characters_before_ : 0);
     const std::string message =
         at_line(block.file, block.line + place.line - 1,
-                "column " + std::to_string(place.column) + ": " + Unmappable(c, to_.page).what());
+                "column " + std::to_string(column) + ": " + Unmappable(c, to_.page).what());
     if (!options_.check) throw Failure(Status::kCodePage, message);
     found_ = true;
     std::cerr << "kzdic: " << message << '\n';
@@ -178,6 +183,7 @@ class FullConversion : public LineFilter {
   const Encoding& to_;
   const ByteTable bytes_;
   std::string replacement_;
+  std::size_t characters_before_ = 0;  // of the line, in pieces before this one
   bool found_ = false;
 };
 

@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
+#include <memory>
 #include <new>
 #include <nlohmann/json.hpp>
 
@@ -20,7 +22,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::size_t kPiece = 65536;
+constexpr std::size_t kPiece = LineFilter::kPiece;
+constexpr std::size_t kLongLine = 16 * kPiece;
 
 class File {
  public:
@@ -54,6 +57,39 @@ class File {
   int descriptor_;
 };
 
+// Bytes that grow at their end. The memory allocator moves large blocks without a copy.
+class Bytes {
+ public:
+  std::string_view view() const { return {data_.get(), size_}; }
+
+  void erase_front(std::size_t count) {
+    std::copy(data_.get() + count, data_.get() + size_, data_.get());
+    size_ -= count;
+  }
+  // Room for this many bytes behind the end.
+  char* room(std::size_t count) {
+    if (capacity_ - size_ < count) {
+      const std::size_t capacity = std::max(2 * capacity_, size_ + count);
+      void* const grown = std::realloc(data_.get(), capacity);
+      if (grown == nullptr) throw std::bad_alloc();
+      static_cast<void>(data_.release());
+      data_.reset(static_cast<char*>(grown));
+      capacity_ = capacity;
+    }
+    return data_.get() + size_;
+  }
+  void grow(std::size_t count) { size_ += count; }
+
+ private:
+  struct Free {
+    void operator()(char* data) const { std::free(data); }
+  };
+
+  std::unique_ptr<char, Free> data_;
+  std::size_t size_ = 0;
+  std::size_t capacity_ = 0;
+};
+
 // Takes a file apart where lines end.
 class LineReader {
  public:
@@ -63,22 +99,21 @@ class LineReader {
 
   // The whole lines that have arrived; at the end of the file what is left, then nothing.
   std::string_view next() {
-    buffer_.erase(0, taken_);
+    buffer_.erase_front(taken_);
     for (;;) {
-      const std::size_t before = buffer_.size();
-      buffer_.resize(before + kPiece);
-      const std::size_t count = file_.read(buffer_.data() + before, kPiece);
-      buffer_.resize(before + count);
-      const std::size_t end = std::string_view(buffer_).substr(before).rfind('\n');
+      const std::size_t before = buffer_.view().size();
+      const std::size_t count = file_.read(buffer_.room(kPiece), kPiece);
+      buffer_.grow(count);
+      const std::size_t end = buffer_.view().substr(before).rfind('\n');
       if (count != 0 && end == std::string_view::npos) continue;
-      taken_ = count == 0 ? buffer_.size() : before + end + 1;
-      return std::string_view(buffer_).substr(0, taken_);
+      taken_ = count == 0 ? before : before + end + 1;
+      return buffer_.view().substr(0, taken_);
     }
   }
 
  private:
   File file_;
-  std::string buffer_;
+  Bytes buffer_;
   std::size_t taken_ = 0;
 };
 
@@ -98,7 +133,7 @@ class Run {
  private:
   void answer(const Block& block) {
     out_.clear();
-    if (options_.json) {
+    if (options_.json || block.text.size() > kLongLine) {
       answer_singly(block);
     } else {
       try {
@@ -120,13 +155,13 @@ class Run {
       try {
         answer_line(line);
       } catch (const BadText& bad) {
-        out_.resize(answered);
+        out_.resize(std::min(answered, out_.size()));
         write();
         throw Failure(Status::kDamaged,
                       at_line(line.file, line.line,
                               "byte " + std::to_string(bad.offset + 1) + ' ' + bad.what()));
       } catch (const Error&) {
-        out_.resize(answered);
+        out_.resize(std::min(answered, out_.size()));
         write();
         throw;
       }
@@ -134,7 +169,9 @@ class Run {
   }
 
   void answer_line(Block line) {
-    if (!options_.json) return filter_.answer(line, out_);
+    if (!options_.json) {
+      return line.text.size() > kLongLine ? answer_in_pieces(line) : filter_.answer(line, out_);
+    }
     if (line.text.ends_with('\n')) {
       line.text.remove_suffix(line.text.ends_with("\r\n") ? 2 : 1);
     }
@@ -145,8 +182,31 @@ class Run {
     out_ += object.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
   }
 
+  void answer_in_pieces(Block line) {
+    line.whole = line.text;
+    for (const bool rehearsal : {true, false}) {
+      line.rehearsal = rehearsal;
+      for (line.offset = 0; line.offset < line.whole.size(); line.offset += line.text.size()) {
+        const std::size_t answered = out_.size();
+        try {
+          const std::size_t size = filter_.piece_size(line.whole, line.offset);
+          line.text = line.whole.substr(line.offset, size);
+          filter_.answer(line, out_);
+        } catch (const BadText& bad) {
+          throw BadText(line.offset + bad.offset, bad.what());
+        }
+        if (rehearsal) {
+          out_.resize(answered);
+        } else {
+          write();
+        }
+      }
+    }
+  }
+
   void write() {
     std::cout.write(out_.data(), static_cast<std::streamsize>(out_.size())).flush();
+    out_.clear();
     if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
   }
 
@@ -156,6 +216,20 @@ class Run {
 };
 
 }  // namespace
+
+std::size_t LineFilter::piece_size(std::string_view line, std::size_t offset) {
+  constexpr std::size_t kLongestReference = 10;
+  std::string_view piece = line.substr(offset, kPiece);
+  if (offset + piece.size() == line.size()) return piece.size();
+  const std::size_t reference = piece.rfind('&');
+  if (reference != std::string_view::npos && reference + kLongestReference > piece.size()) {
+    return reference;
+  }
+  const auto is_inside = [&](std::size_t at) { return (line[offset + at] & 0xC0) == 0x80; };
+  std::size_t size = piece.size();
+  while (size > piece.size() - 4 && is_inside(size)) --size;
+  return size;
+}
 
 void LineFilter::describe(const Block& line, Json& object) {
   std::string output;

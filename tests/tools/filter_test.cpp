@@ -1,15 +1,23 @@
 // The filters of texts, as they are run: convert, translit, layout, replace.
 #include <gtest/gtest.h>
 #include <iconv.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <random>
 #include <thread>
 
 #include "kz/codepage.h"
+#include "kz/replace_buffer.h"
+#include "kz/translit.h"
 #include "tests/tools/kzdic_run.h"
 
 namespace {
@@ -178,6 +186,92 @@ TEST(Filter, KeepsLineEndsZerosAndLinesOfAnyLength) {
   EXPECT_EQ(bad.out, "as\n\n");
   EXPECT_NE(bad.err.find(":3: byte 3 is not UTF-8"), std::string::npos);
 }
+
+// Words of these characters, in a line that is answered in pieces.
+std::string long_line(const std::vector<std::string>& pieces, unsigned seed) {
+  std::mt19937 random(seed);
+  std::string line;
+  while (line.size() < 1'300'000) line += pieces[random() % pieces.size()];
+  return line;
+}
+
+TEST(Filter, AnswersALongLineAsTheLibraryDoes) {
+  const Workplace place;
+  const auto made = [](const std::string& source, const auto& function) {
+    std::string result(source.size() * 3 + 1, '\0');
+    result.resize(
+        static_cast<std::size_t>(function(source.c_str(), result.data()) - result.data()));
+    return result;
+  };
+  const std::string html = long_line({"&#196;", "&#65;", "&", "&#", "a", ";"}, 1);
+  EXPECT_TRUE(convert(place, "html", "cp1251", html, {"--narrow"}).out ==
+              made(html, strhtmltoansi));
+  const std::string mixed = long_line({"&#1078;", "Ж", "→", "x", "&"}, 2);
+  EXPECT_TRUE(convert(place, "html", "utf-8", convert(place, "utf-8", "html", mixed).out).out ==
+              convert(place, "html", "utf-8", mixed).out);
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"a", "b", "C", "e", "h", "t", "o", "s", "i", "u", "gh"},
+        {"so ld ", "the ", "make ", "notes, ", "Age e", "ght"}}) {
+    const std::string text = long_line(words, 3);
+    EXPECT_TRUE(convert(place, "utf-8", "cp1251",
+                        place.kzdic({"translit", "--to", "russian", "--smart"}, text).out)
+                    .out == made(text, [](const char* source, char* out) {
+                  return strtransliterateenrusmart(source, out, 1);
+                }));
+  }
+  for (const std::string buffer : {"ab=xyz\r\nb\r\nba=Q\r\naab=\r\n", "c=dd\r\nab\r\n"}) {
+    place.write("words", buffer);
+    CFindBuffer loaded(0);
+    ASSERT_EQ(loaded.Load(place.path("words").c_str()), 0);
+    const std::string text = long_line({"a", "b"}, 4);
+    EXPECT_TRUE(place.kzdic({"replace", "words"}, text).out ==
+                made(text, [&](const char* source, char* out) {
+                  return ChangeWord(&loaded, source, out), out + std::strlen(out);
+                }));
+  }
+}
+
+TEST(Filter, WritesNothingOfALongLineThatCannotBeAnswered) {
+  const Workplace place;
+  const std::string line = long_line({"Ж"}, 1);
+  const std::string column = ":2: column " + std::to_string(line.size() / 2 + 1) + ": ";
+  const Outcome lacking = convert(place, "utf-8", "cp866", "a\n" + line + "→\nb\n");
+  EXPECT_EQ(lacking.status, 5);
+  EXPECT_EQ(lacking.out, "a\n");
+  EXPECT_NE(lacking.err.find(column), std::string::npos) << lacking.err;
+  const Outcome checked = convert(place, "utf-8", "cp866", "a\n" + line + "→\n→\n", {"--check"});
+  EXPECT_NE(checked.err.find(column), std::string::npos);
+  EXPECT_EQ(std::count(checked.err.begin(), checked.err.end(), '\n'), 2);
+  const Outcome bad = place.kzdic({"layout", "--to", "latin"}, "ф\n" + line + "\xD0\nф\n");
+  EXPECT_EQ(bad.status, 4);
+  EXPECT_EQ(bad.out, "a\n");
+  EXPECT_NE(bad.err.find(":2: byte " + std::to_string(line.size() + 1)), std::string::npos);
+}
+
+#ifndef __SANITIZE_ADDRESS__
+TEST(Filter, HoldsALongLineOnce) {
+  const Workplace place;
+  constexpr std::size_t kSize = 20'000'000;
+  place.write("line", std::string(kSize, 'a'));
+  place.write("words", "b=c\r\na=dd\r\n");
+  for (const std::string command :
+       {"convert --from utf-8 --to html", "translit --to russian --smart", "translit --to latin",
+        "layout --to russian", "replace words"}) {
+    const std::string run =
+        "cd " + place.path("") + " && exec " KZDIC_PATH " " + command + " line > /dev/null";
+    const pid_t child = fork();
+    if (child == 0) {
+      execl("/bin/sh", "sh", "-c", run.c_str(), nullptr);
+      _exit(127);
+    }
+    int status = -1;
+    struct rusage usage {};
+    ASSERT_EQ(wait4(child, &status, 0, &usage), child);
+    EXPECT_EQ(status, 0);
+    EXPECT_LT(usage.ru_maxrss * 1024L, 2L * kSize) << command;
+  }
+}
+#endif
 
 TEST(Filter, AnswersALineOfAPipeAtOnce) {
   const Workplace place;
