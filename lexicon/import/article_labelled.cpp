@@ -13,7 +13,7 @@ struct PartLabel {
   char code;
 };
 
-constexpr std::array<PartLabel, 12> kParts = {{{U"_n.", 'N'},
+constexpr std::array<PartLabel, 13> kParts = {{{U"_n.", 'N'},
                                                {U"_v.", 'V'},
                                                {U"_a.", 'A'},
                                                {U"_adv.", 'D'},
@@ -24,18 +24,41 @@ constexpr std::array<PartLabel, 12> kParts = {{{U"_n.", 'N'},
                                                {U"_interj.", 'J'},
                                                {U"_int.", 'J'},
                                                {U"_num.", 'I'},
-                                               {U"_p.", 'A'}}};
+                                               {U"_n-card.", 'I'},
+                                               {U"_n-ord.", 'I'}}};
 
 bool is_digit(char32_t c) { return c >= U'0' && c <= U'9'; }
 bool is_russian(char32_t c) { return c >= U'а' && c <= U'я'; }
 
-enum class Item { kText, kPart, kMeaning, kSub };
+// Length of a homonym's number at the beginning of the text: "_II", not a label such as "_I.". 0
+// without one.
+std::size_t homonym_length(std::u32string_view text) {
+  if (!text.starts_with(U'_')) return 0;
+  const std::size_t end = std::min(text.find_first_not_of(U"IVX", 1), text.size());
+  const std::u32string_view after = text.substr(end, 1);
+  const bool ends = after.empty() || std::u32string_view(U" [=_(").find(after[0]) != after.npos;
+  return end > 1 && ends ? end : 0;
+}
 
-// What a line begins: "1. _n." a part of speech, "1)" a meaning, "а)" a shade of one. Cuts the
-// number off; other lines go on with what stands before them.
+// Where the next homonym's number stands behind the beginning of the text, or its length.
+std::size_t find_homonym(std::u32string_view text) {
+  for (std::size_t at = 1; at < text.size(); ++at) {
+    if (text[at - 1] == U' ' && homonym_length(text.substr(at)) > 0) return at;
+  }
+  return text.size();
+}
+
+enum class Item { kText, kHomonym, kPart, kMeaning, kSub };
+
+// What a line begins: "_II" a homonym, "1. _n." a part of speech, "1)" a meaning, "а)" a shade of
+// one. Cuts the number off; other lines go on with what stands before them.
 Item take_item(std::u32string_view& line, int& number) {
   std::size_t digits = 0;
   number = 0;
+  if (const std::size_t homonym = homonym_length(line); homonym > 0) {
+    line.remove_prefix(homonym);
+    return Item::kHomonym;
+  }
   while (digits < line.size() && is_digit(line[digits])) {
     number = number * 10 + static_cast<int>(line[digits++] - U'0');
   }
@@ -90,6 +113,7 @@ class LabelledReader {
   void take(std::u32string_view line) {
     int number = 0;
     switch (take_item(line, number)) {
+      case Item::kHomonym: open_homonym(); return take(trimmed(line));
       case Item::kPart: open_part(); break;
       case Item::kMeaning: open_meaning(number); break;
       case Item::kSub: append(U";"); break;
@@ -108,6 +132,13 @@ class LabelledReader {
     int number;
     std::u32string text;
   };
+
+  // A homonym shares nothing with the one before it.
+  void open_homonym() {
+    close_part();
+    prefix_.clear();
+    in_part_ = false;
+  }
 
   // What stands before the first part without being a part, such as a label, holds for all parts.
   void open_part() {
@@ -181,7 +212,14 @@ class LabelledReader {
 
 std::vector<PlainEntry> read_labelled(const std::vector<std::u32string>& lines) {
   LabelledReader reader(trimmed(lines[0]));
-  for (std::size_t i = 1; i < lines.size(); ++i) reader.take(trimmed(lines[i]));
+  for (std::size_t i = 1; i < lines.size(); ++i) {
+    const std::u32string line = trimmed(lines[i]);
+    for (std::u32string_view rest = line; !rest.empty();) {
+      const std::size_t end = find_homonym(rest);
+      reader.take(trimmed(rest.substr(0, end)));
+      rest.remove_prefix(end);
+    }
+  }
   return reader.finish();
 }
 

@@ -190,6 +190,40 @@ TEST(BodyWriter, SpreadsLongEntriesOverRecordsAndKeepsEverySynonym) {
   EXPECT_EQ(synonyms, 60u * 2 + 300);
 }
 
+TEST(Article, TakesEveryHomonymForItself) {
+  const std::pair<const char32_t*, std::vector<std::u32string>> articles[] = {
+      {U"bow\n   _I  [baʊ]\n      1. _n. поклон\n      2. _v.\n         1) гнуть(ся)\n"
+       U"         2) кланяться\n   _II [bɜʊ]\n      1. _n.\n         1) лук\n         2) дуга\n"
+       U"      2. _v. владеть смычком\n   _III[baʊ] _n. (часто _pl.) нос (корабля)\n",
+       {U"N поклон", U"V гнуть(ся)|кланяться", U"N лук|дуга", U"V владеть смычком",
+        U"N (часто pl.) нос (корабля)"}},
+      {U"row\n   _I  [rɜʊ] _n.\n      1) ряд\n      2) улица\n   _II [rɜʊ]\n         1. _n.\n"
+       U"      1) гребля\n         2. _v.\n      1) грести\n   _III[raʊ] _разг.\n      1. _n. шум\n"
+       U"      2. _v. шуметь\n   _IV= rowel\n",
+       {U"N ряд|улица", U"N гребля", U"V грести", U"N разг. шум", U"V разг. шуметь", U"W = rowel"}},
+      {U"lie\n   _I  [laɪ] _v. лгать _II [laɪ] _v. лежать; см. set II\n",
+       {U"V лгать", U"V лежать|см. set II"}},
+      {U"set\n   [sɛt]\n   1. _n.\n      1) набор\n      10)декорации; to make a set at\n"
+       U"         а) нападать;\n         б) домогаться\n   2. _a. твёрдый\n   3. _p. и _p-p. от "
+       U"set 2\n",
+       {U"N набор|декорации|to make a set at|нападать|домогаться", U"A твёрдый",
+        U"W p. и p-p. от set 2"}},
+  };
+  for (const auto& [article, expected] : articles) {
+    std::vector<std::u32string> entries;
+    for (const kzdic::PlainEntry& entry : kzdic::read_article(article)) {
+      std::u32string text(1, static_cast<char32_t>(entry.part));
+      for (const auto& meaning : entry.meanings) {
+        for (const std::u32string& synonym : meaning.synonyms) {
+          text += (text.size() == 1 ? U" " : U"|") + synonym;
+        }
+      }
+      entries.push_back(text);
+    }
+    EXPECT_EQ(entries, expected);
+  }
+}
+
 TEST(Article, ReadsBothLayouts) {
   const auto marked = kzdic::read_article(U"d’abord /d‿a.bɔʁ/ <adv>\nсначала (тут, там), прежде\n");
   ASSERT_EQ(marked.size(), 1u);
