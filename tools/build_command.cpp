@@ -118,6 +118,17 @@ int choose_depth(const std::vector<Record>& records, const std::string& language
   return bytes > groups.size() * kBlockTarget ? 3 : 2;
 }
 
+// Reads the records anew whose headwords an index of less depth holds as they are written.
+void restore_headwords(std::vector<Record>& records, const SourceText& source,
+                       const EntryReader& reader) {
+  for (Record& record : records) {
+    if (!record.shortened) continue;
+    const std::size_t line = record.line;
+    record = reader.read(source.lines[line].text);
+    record.line = line;
+  }
+}
+
 // Drops the records for which `why` has a reason, and reports them.
 template <typename Why>
 void refuse_if(std::vector<Record>& records, const SourceText& source, Refusals& refusals,
@@ -199,8 +210,9 @@ void build(const BuildOptions& options) {
                     options.time_stamp};
 
   Refusals refusals(options.skip_bad);
-  const EntryReader reader({language, word_list, options.packed, options.fold_yo});
-  std::vector<Record> records = read_records(source, reader, refusals);
+  EntryReader::Options form{language, word_list, options.packed, options.fold_yo};
+  form.depth = options.depth != 0 ? options.depth : 3;
+  std::vector<Record> records = read_records(source, EntryReader(form), refusals);
   if (options.packed) {
     refuse_if(records, source, refusals, [&](const Record& record) {
       return packed_refusal(record.text, language, may_share);
@@ -208,6 +220,10 @@ void build(const BuildOptions& options) {
   }
   const int depth =
       options.depth != 0 ? options.depth : choose_depth(records, language, options.skip_bad);
+  if (depth < form.depth) {
+    form.depth = depth;
+    restore_headwords(records, source, EntryReader(form));
+  }
   const SortOrder order(language, depth);
   refuse_if(records, source, refusals,
             [&](const Record& record) { return order.refusal(record.headword); });

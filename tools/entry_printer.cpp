@@ -20,6 +20,7 @@ std::string step_name(const Found& found) {
     case Step::kTyped: return "as typed";
     case Step::kLowerCase: return "in lower case";
     case Step::kFolded: return "with е for ё";
+    case Step::kPlain: return "in plain characters";
     case Step::kInflected:
       return found.ending.empty() ? "as a form without ending" : "by its ending " + found.ending;
     case Step::kNone: break;

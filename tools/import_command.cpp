@@ -6,7 +6,9 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <utility>
 
+#include "kz/charclass.h"
 #include "lexicon/build/sort_order.h"
 #include "lexicon/file/delivery.h"
 #include "lexicon/import/article.h"
@@ -14,6 +16,8 @@
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
 #include "lexicon/file/outputs.h"
+#include "tools/index_headword.h"
+#include "tools/plain_letters.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -64,8 +68,9 @@ class Import {
     const auto count = [&](std::size_t number, const char* what) {
       if (number != 0) std::cerr << "  " << number << ' ' << what << '\n';
     };
+    count(plain_, "headwords written in plain letters: a character is not in the code page");
     count(characters_, "headwords left out: a character is not in the code page");
-    count(unindexed_, "headwords left out: the index cannot hold their beginning or length");
+    count(unindexed_, "headwords left out: without a letter, or too long");
     count(empty_, "articles left out: no translation is left");
     count(losses.characters, "characters of translations written otherwise or dropped");
     count(losses.definitions, "definitions dropped: too long");
@@ -85,12 +90,10 @@ class Import {
   // The headword in the characters that headwords have.
   static std::u32string plain_headword(std::u32string_view text) {
     std::u32string word;
-    for (const char32_t c : text) {
-      if (c == U'’' || c == U'‘' || c == U'ʼ') {
-        word += U'\'';
-      } else if (c == U'\u00A0') {
-        word += U' ';
-      } else if (c != U'\u0301' && c != U'\u00AD') {
+    for (const char32_t c : plain_punctuation(text)) {
+      if (c == U'\\') {
+        word += U'/';
+      } else if (c != U'\u0301' && c != U'\u00AD' && c != U'*') {
         word += c;
       }
     }
@@ -99,25 +102,36 @@ class Import {
 
   // The word in lower case, without what indexes leave out.
   std::optional<std::string> squeezed(std::u32string_view word) const {
-    std::string bytes;
-    try {
-      bytes = lower_case(encode(plain_headword(word), source_page(language_)), language_);
-    } catch (const Unmappable&) {
-      return std::nullopt;
-    }
-    std::erase_if(bytes, [](char c) { return c > 0 && c < '0'; });
+    const CodePage page = source_page(language_);
+    auto plain = in_plain_letters(plain_headword(word), page);
+    if (!plain) return std::nullopt;
+    std::erase(*plain, U'…');
+    std::string bytes = lower_case(encode(*plain, page), language_);
+    std::erase_if(bytes, [](char c) { return c > 0 && _isalpha(c) == 0 && _isdigit(c) == 0; });
     return bytes;
   }
 
-  // Why the headword is no headword of this dictionary: the counter of such words.
-  std::size_t* refusing(const std::u32string& word) {
-    try {
-      const std::string bytes = lower_case(encode(word, source_page(language_)), language_);
-      const bool mark = bytes.find_first_of("*\\") != std::string::npos;
-      return mark || order_.refusal(bytes) ? &unindexed_ : nullptr;
-    } catch (const Unmappable&) {
-      return &characters_;
+  // Gives the entry a headword of this dictionary, with its spelling where a build would not find
+  // it. False, and counted, when there is none.
+  bool take_headword(const std::u32string& word, PlainEntry& entry) {
+    const CodePage page = source_page(language_);
+    const auto plain = in_plain_letters(word, page);
+    if (!plain) {
+      ++characters_;
+      return false;
     }
+    entry.headword = *plain;
+    const std::string bytes = lower_case(encode(*plain, page), language_);
+    if (order_.refusal(bytes) && !index_headword(bytes, order_, ForeignLetters::kDropped)) {
+      const auto other = index_headword(bytes, order_, ForeignLetters::kTransliterated);
+      if (!other) {
+        ++unindexed_;
+        return false;
+      }
+      entry.spelling = std::exchange(entry.headword, decode(*other, page));
+    }
+    plain_ += *plain != word ? 1 : 0;
+    return true;
   }
 
   void write_entry(const DictdEntry& entry, std::ostream& out) {
@@ -127,11 +141,7 @@ class Import {
     for (PlainEntry& part : parts) {
       // Index keys lack capitals and marks; a key of another word than the article's is an alias.
       const bool alias = squeezed(part.headword) != squeezed(key);
-      part.headword = plain_headword(alias ? key : part.headword);
-      if (std::size_t* counter = refusing(part.headword)) {
-        ++*counter;
-        return;
-      }
+      if (!take_headword(plain_headword(alias ? key : part.headword), part)) return;
       for (const std::string& line : writer_.lines(part)) {
         out << line << '\n';
         ++lines_;
@@ -146,6 +156,7 @@ class Import {
   SortOrder order_;
   BodyWriter writer_;
   std::size_t lines_ = 0;
+  std::size_t plain_ = 0;
   std::size_t characters_ = 0;
   std::size_t unindexed_ = 0;
   std::size_t empty_ = 0;

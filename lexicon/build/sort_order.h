@@ -26,6 +26,10 @@ class SortOrder {
 
   int depth() const { return depth_; }
   int alphabet_size() const { return alphabet_size_; }
+  const std::string& language() const { return language_; }
+
+  // True for a small letter of the dictionary's language.
+  bool is_letter(char c) const;
 
   // Why the word (lower case, in the dictionary's code page) cannot be a headword; nothing when
   // it can.
@@ -40,7 +44,6 @@ class SortOrder {
   bool same_beginning(std::string_view prefix, std::string_view word) const;
 
  private:
-  bool is_letter(char c) const;
   std::uint32_t slot(std::string_view word, std::size_t position) const;
   std::uint32_t key(std::string_view word) const;
 

@@ -11,6 +11,8 @@
 #include "lexicon/search/inflect_table.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
+#include "tools/index_headword.h"
+#include "tools/plain_letters.h"
 
 namespace kz::lexicon {
 namespace {
@@ -20,6 +22,13 @@ constexpr std::int16_t kToTheEnd = -1;  // beginnings, to the end of the records
 constexpr std::int16_t kResolve = 2;
 
 std::string_view headword_of(std::string_view entry) { return entry.substr(0, entry.find('*')); }
+
+// The headword as it is written.
+std::string spelling_of(std::string_view entry) {
+  const EntryLayout at = layout_of(entry);
+  if (at.source_word == entry.size()) return std::string(entry.substr(0, at.head_end));
+  return std::string(entry.substr(at.source_word + 2));
+}
 
 // Gender and number of a noun's entry, as bits of a GRAMINFO; 0 when it does not tell.
 std::uint32_t noun_grammar(std::string_view entry, const EntryLayout& at) {
@@ -85,18 +94,21 @@ Searcher::Searcher(CDic* dictionary)
       header_(read_file_header(path_)),
       order_(header_.language.empty() ? "EN" : header_.language, header_.depth) {}
 
-// The query in the dictionary's code page: none when it has characters that the page lacks.
-std::vector<std::string> Searcher::forms(const std::string& word) const {
-  std::string typed;
-  try {
-    typed = encode(from_utf8(word), source_page(header_.language));
-  } catch (const std::runtime_error&) {
-    return {};
-  }
+// The query in the dictionary's code page: none when it has characters that cannot be written in
+// it.
+std::optional<Searcher::Forms> Searcher::forms(std::u32string_view word) const {
+  const CodePage page = source_page(header_.language);
+  const auto plain = in_plain_letters(word, page);
   // '*' ends headwords and the line feed ends records: neither is in a word.
-  if (typed.find_first_of(std::string_view("*\n\0", 3)) != std::string::npos) return {};
-  const std::string lower = lower_case(typed, header_.language);
-  return {typed, lower, header_.language.starts_with("RU") ? fold_yo(lower) : lower};
+  if (!plain || plain->find_first_of(std::u32string_view(U"*\n\0", 3)) != std::string::npos) {
+    return std::nullopt;
+  }
+  Forms forms;
+  forms.typed = encode(*plain, page);
+  forms.lower = lower_case(forms.typed, header_.language);
+  forms.folded = header_.language.starts_with("RU") ? fold_yo(forms.lower) : forms.lower;
+  forms.plain = *plain != word;
+  return forms;
 }
 
 std::vector<std::string> Searcher::exact(const std::string& word, std::size_t next) {
@@ -133,24 +145,62 @@ std::vector<std::string> Searcher::beginning_with(const std::string& prefix) {
   return entries;
 }
 
-Answer Searcher::find(const Query& query) {
-  constexpr std::array<Step, 3> kSteps = {Step::kTyped, Step::kLowerCase, Step::kFolded};
-  const std::vector<std::string> words = forms(query.word);
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    if (i > 0 && words[i] == words[i - 1]) continue;
-    std::vector<std::string> entries =
-        query.prefix ? beginning_with(words[i]) : exact(words[i], query.next);
-    if (!entries.empty()) return {kSteps.at(i), std::move(entries), {}};
+// A word that the index cannot hold at its beginning: the entries of its headword that are spelled
+// so.
+Answer Searcher::find_spelled(const Query& query, const Forms& forms) {
+  if (!order_.refusal(forms.lower)) return {};
+  const auto headword = index_headword(forms.lower, order_, ForeignLetters::kTransliterated);
+  if (!headword) return {};
+  std::vector<std::string> entries =
+      query.prefix ? beginning_with(*headword) : exact(*headword, query.next);
+  Answer answer;
+  answer.step = Step::kLowerCase;
+  for (std::string& entry : entries) {
+    const std::string spelling = spelling_of(entry);
+    const std::string lower = lower_case(spelling, header_.language);
+    const bool behind = !query.prefix && !answer.entries.empty() && headword_of(entry) != *headword;
+    if (!behind && (query.prefix ? !lower.starts_with(forms.lower) : lower != forms.lower))
+      continue;
+    if (spelling.starts_with(forms.typed)) answer.step = Step::kTyped;
+    answer.entries.push_back(std::move(entry));
   }
-  return {};
+  return answer.entries.empty() ? Answer{} : answer;
+}
+
+Answer Searcher::find_form(const Query& query, const Forms& forms) {
+  Answer answer;
+  const std::string* before = nullptr;
+  for (const auto& [step, word] : {std::pair(Step::kTyped, &forms.typed),
+                                   {Step::kLowerCase, &forms.lower},
+                                   {Step::kFolded, &forms.folded}}) {
+    if (before != nullptr && *word == *before) continue;
+    before = word;
+    answer = {step, query.prefix ? beginning_with(*word) : exact(*word, query.next), {}};
+    if (!answer.entries.empty()) break;
+  }
+  if (answer.entries.empty()) answer = find_spelled(query, forms);
+  if (answer.entries.empty()) return {};
+  if (forms.plain) answer.step = Step::kPlain;
+  return answer;
+}
+
+Answer Searcher::find(const Query& query) {
+  const std::u32string word = from_utf8(query.word);
+  Answer answer;
+  if (const std::optional<Forms> written = forms(word)) answer = find_form(query, *written);
+  const std::u32string plain = plain_punctuation(word);
+  if (answer.step != Step::kNone || plain == word) return answer;
+  if (const std::optional<Forms> other = forms(plain)) answer = find_form(query, *other);
+  if (answer.step != Step::kNone) answer.step = Step::kPlain;
+  return answer;
 }
 
 std::vector<Answer> Searcher::find_inflected(const std::string& word, CGrSrcWordFlex& table) {
   std::vector<Answer> answers;
-  const std::vector<std::string> words = forms(word);
-  if (words.empty() || !header_.language.starts_with("RU")) return answers;
+  const std::optional<Forms> forms = this->forms(from_utf8(word));
+  if (!forms || forms->plain || !header_.language.starts_with("RU")) return answers;
   std::set<std::string> answered;
-  for (const HeadwordForm& form : headword_forms(words[1], table)) {
+  for (const HeadwordForm& form : headword_forms(forms->lower, table)) {
     if (answered.contains(form.headword)) continue;
     std::vector<std::string> entries = exact(form.headword, 0);
     std::erase_if(entries, [&](const std::string& e) { return !belongs_to(form, e); });

@@ -3,6 +3,7 @@
 #define KZ_LEXICON_SEARCH_H
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,7 @@ enum class Step {
   kTyped,
   kLowerCase,  // lower-cased by the dictionary's language
   kFolded,     // lower-cased, and the Russian letter yo written as ye
+  kPlain,      // in plain letters or punctuation that the dictionary has for others
   kInflected,  // the headword of a Russian form
 };
 
@@ -53,7 +55,16 @@ class Searcher {
  private:
   explicit Searcher(Dictionary dictionary);
 
-  std::vector<std::string> forms(const std::string& word) const;
+  // The forms of a query as the dictionary would spell them.
+  struct Forms {
+    std::string typed;
+    std::string lower;
+    std::string folded;
+    bool plain = false;  // the page lacks a character of the query
+  };
+  std::optional<Forms> forms(std::u32string_view word) const;
+  Answer find_form(const Query& query, const Forms& forms);
+  Answer find_spelled(const Query& query, const Forms& forms);
   std::vector<std::string> exact(const std::string& word, std::size_t next);
   std::vector<std::string> beginning_with(const std::string& prefix);
 

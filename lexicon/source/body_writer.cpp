@@ -7,9 +7,11 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
+#include "tools/plain_letters.h"
 
 namespace kz::lexicon {
 namespace {
@@ -19,21 +21,9 @@ constexpr std::size_t kDefinitionMax = 600;
 // A synonym of an entry object has at most 355 characters; braces and blanks need some of them.
 constexpr std::size_t kSynonymMax = 280;
 
-struct Replacement {
-  char32_t character;
-  std::u32string_view text;
-};
-
-// How characters are written in a code page that lacks them.
-constexpr std::array<Replacement, 38> kReplacements = {{
-    {U'ä', U"ae"},    {U'ö', U"oe"},    {U'ü', U"ue"}, {U'Ä', U"Ae"}, {U'Ö', U"Oe"}, {U'Ü', U"Ue"},
-    {U'ß', U"ss"},    {U'à', U"a"},     {U'á', U"a"},  {U'â', U"a"},  {U'À', U"A"},  {U'Â', U"A"},
-    {U'ç', U"c"},     {U'Ç', U"C"},     {U'è', U"e"},  {U'é', U"e"},  {U'ê', U"e"},  {U'ë', U"e"},
-    {U'È', U"E"},     {U'É', U"E"},     {U'Ê', U"E"},  {U'î', U"i"},  {U'ï', U"i"},  {U'í', U"i"},
-    {U'Î', U"I"},     {U'ñ', U"n"},     {U'ô', U"o"},  {U'ó', U"o"},  {U'ù', U"u"},  {U'û', U"u"},
-    {U'ú', U"u"},     {U'œ', U"oe"},    {U'Œ', U"Oe"}, {U'æ', U"ae"}, {U'×', U"x"},  {U'*', U""},
-    {U'\u0301', U""}, {U'\u00AD', U""},
-}};
+// German letters have plain ones of their own.
+constexpr std::array<std::pair<char32_t, std::u32string_view>, 6> kUmlauts = {
+    {{U'ä', U"ae"}, {U'ö', U"oe"}, {U'ü', U"ue"}, {U'Ä', U"Ae"}, {U'Ö', U"Oe"}, {U'Ü', U"Ue"}}};
 
 // Marks of the format for which there is a plain character.
 char32_t unmarked(char32_t c) {
@@ -134,9 +124,10 @@ std::u32string BodyWriter::storable(std::u32string_view text) {
       if (c != U' ' || (!result.empty() && result.back() != U' ')) result += c;
       continue;
     }
-    const auto known = std::find_if(kReplacements.begin(), kReplacements.end(),
-                                    [c](const Replacement& other) { return other.character == c; });
-    if (known != kReplacements.end()) result += known->text;
+    const auto umlaut = std::find_if(kUmlauts.begin(), kUmlauts.end(),
+                                     [c](const auto& other) { return other.first == c; });
+    result += umlaut != kUmlauts.end() ? std::u32string(umlaut->second)
+                                       : plain_letters(c).value_or(std::u32string());
     // A stress mark is no part of the spelling.
     if (c != U'\u0301') ++losses_.characters;
   }
@@ -249,7 +240,9 @@ std::vector<std::string> BodyWriter::lines(const PlainEntry& entry) {
   for (const std::u32string& body : bodies) {
     std::string line = to_utf8(entry.headword) + '*' + entry.part;
     if (!entry.attribute.empty()) line += '[' + entry.attribute + ']';
-    result.push_back(line + to_utf8(body));
+    line += to_utf8(body);
+    if (!entry.spelling.empty()) line += "\\\\" + to_utf8(entry.spelling);
+    result.push_back(line);
   }
   return result;
 }

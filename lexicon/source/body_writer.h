@@ -18,6 +18,7 @@ struct PlainMeaning {
 
 struct PlainEntry {
   std::u32string headword;
+  std::u32string spelling;  // where the headword cannot be what it is written as
   char part = 'W';
   std::string attribute;  // tags without brackets
   std::vector<PlainMeaning> meanings;

@@ -6,6 +6,7 @@
 #include "kzlexicon/error.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
+#include "tools/index_headword.h"
 
 namespace kz::lexicon {
 namespace {
@@ -51,11 +52,14 @@ std::string EntryReader::folded(std::string text) const {
   return text;
 }
 
+// Without a part of speech there is no place for a source word.
+bool EntryReader::can_add_spelling(const std::string& text) const {
+  const EntryLayout at = layout_of(text);
+  return at.part < text.size() && at.source_word == text.size();
+}
+
 void EntryReader::add_spelling(Record& record, const std::string& spelling) const {
-  const EntryLayout at = layout_of(record.text);
-  // Without a part of speech there is no place for a source word.
-  if (spelling == record.headword || at.part >= record.text.size()) return;
-  if (at.source_word < record.text.size()) return;
+  if (spelling == record.headword || !can_add_spelling(record.text)) return;
   const std::size_t end = record.text.size();
   record.text += "\\\\" + spelling;
   if (layout_of(record.text).source_word != end) {
@@ -80,6 +84,11 @@ Record EntryReader::read(std::string_view utf8) const {
   std::string spelling = record.text.substr(0, at.head_end);
   if (spelling.ends_with(' ')) refuse("the headword ends with a blank");
   record.headword = folded(lower_case(spelling, options_.language));
+  if (order_.refusal(record.headword) && can_add_spelling(record.text)) {
+    const auto other = index_headword(record.headword, order_, ForeignLetters::kDropped);
+    record.shortened = other.has_value();
+    if (other) record.headword = *other;
+  }
   std::string body = record.text.substr(at.head_end);
   if (options_.packed) {
     // What stays in a packed record has to be storable; the body can move out of it.

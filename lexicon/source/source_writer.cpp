@@ -17,7 +17,8 @@ bool is_word_list(const FileHeader& header) { return header.type == "S"; }
 
 SourceWriter::SourceWriter(const FileHeader& header)
     : header_(header),
-      reader_({header.language, is_word_list(header), header.packed(), /*fold_yo=*/false}) {}
+      reader_({header.language, is_word_list(header), header.packed(), /*fold_yo=*/false,
+               header.depth}) {}
 
 std::string SourceWriter::directives() const {
   const CodePage page = header_page(header_.language);

@@ -269,8 +269,9 @@ TEST(Build, RefusesWhatTheFormatCannotHoldAndNamesTheLine) {
   const std::vector<BadLine> lines = {
       {"no star", 4, "no '*'"},
       {"a*N*б", 4, "more than one"},
-      {"!a*Nб", 4, "neither a letter"},
-      {"a!b*Nб", 4, "character 2"},
+      {"!*Nб", 4, "neither a letter"},
+      {"!a*Nб\\\\A", 4, "neither a letter"},
+      {"a!b*", 4, "character 2"},
       {"дом*Nhouse", 4, "neither a letter"},
       {"cat *Nкот", 4, "blank"},
       {"*x\ncat*N\tкот", 4, "control"},

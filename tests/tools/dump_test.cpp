@@ -102,6 +102,11 @@ TEST_F(DumpTest, GivesHeadwordsTheirSpellingBackWhereThatReadsTheSame) {
       "еж*Nhedgehog\\\\Ёж\nЕлка*Nfir\\list\nМосква*=Moscow\nон*Rhe\\\\она\n";
   build(kept);
   EXPECT_EQ(place.kzdic({"dump", "o.dic"}).out, kept);
+  build("*: language ENRU\n'Tis*Vа\na!b*Nб\nab!*Nв\nav*Nг\\\\_ав\n");
+  EXPECT_EQ(entries(), "a!b*Nб\nab!*Nв\nav*Nг\\\\_ав\n'Tis*Vа\n");
+  build("*: language ENRU\nab!*Nв\n", {"--depth", "3"});
+  EXPECT_EQ(place.kzdic({"lookup", "--raw", "o.dic", "ab!"}).out, "ab*Nв\\\\ab!\n");
+  EXPECT_EQ(entries(), "ab!*Nв\n");
   build("*: language RUEN\nЁж*Nhedgehog\nёлка*Nfir\n", {"--fold-yo"});
   EXPECT_EQ(entries(), "еж*Nhedgehog\\\\Ёж\nелка*Nfir\\\\ёлка\n");
 }

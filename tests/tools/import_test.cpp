@@ -52,7 +52,7 @@ Database sample() {
   database.add("haus",
                "Haus /haʊs/ <n, neut>\n1. дом, здание 2.\nein Gebäude\n 3.\nFamilie\n"
                "2. палата\n");
-  database.add("-able", "-able\n   [eibl] _suff. -мый\n");
+  database.add("!", "!\n   возглас\n");
   return database;
 }
 
@@ -63,7 +63,7 @@ TEST(Import, WritesSourceThatBuildsAndFindsItsWords) {
     const Outcome imported =
         place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt", "--language", "ENRU"});
     ASSERT_EQ(imported.status, 0) << imported.err;
-    EXPECT_THAT(imported.err, HasSubstr("1 headwords left out: the index"));
+    EXPECT_THAT(imported.err, HasSubstr("1 headwords left out: without a letter"));
     EXPECT_THAT(place.read("s.txt"),
                 HasSubstr("\nabandon*V1.покидать, оставлять/2.отказываться;{to abandon smth.} (или "
                           "{it}) бросать в {1945.} году\n"
@@ -72,6 +72,33 @@ TEST(Import, WritesSourceThatBuildsAndFindsItsWords) {
     ASSERT_EQ(place.kzdic({"build", "s.txt", "-o", "o.dic"}).status, 0);
     EXPECT_THAT(place.kzdic({"lookup", "o.dic", "abandon"}).out,
                 HasSubstr("2. отказываться; to abandon smth. (или it) бросать в 1945. году\n"));
+  }
+}
+
+TEST(Import, FindsWordsAsWrittenThatTheIndexCannotHold) {
+  const std::vector<std::string> words = {"'cause",  "-able", "_ав.",  "букв.",
+                                          "attaché", "δ",     "naïf’s"};
+  Database database;
+  for (const std::string& word : words) database.add(word, word + "\n   _n. перевод слова\n");
+  database.add("cause", "cause\n   _n. причина\n");
+  const Workplace place;
+  database.write(place, false);
+  ASSERT_EQ(place.kzdic({"import", "--from", "dictd", "db", "-o", "s.txt"}).status, 0);
+  for (const char* form : {"--plain", "--packed"}) {
+    ASSERT_EQ(place.kzdic({"build", form, "s.txt", "-o", "o.dic"}).status, 0);
+    for (const std::string& word : words) {
+      EXPECT_THAT(place.kzdic({"lookup", "o.dic", "--", word}).out, HasSubstr("перевод слова"))
+          << word;
+    }
+    const auto raw = [&](const char* word) {
+      return place.kzdic({"lookup", "--raw", "o.dic", "--", word}).out;
+    };
+    EXPECT_EQ(raw("'CAUSE"), "cause*Nперевод слова\\\\'cause\n");
+    EXPECT_EQ(raw("cause"), raw("'CAUSE") + "cause*Nпричина\n");
+    EXPECT_EQ(raw("_АВ."), "av.*Nперевод слова\\\\_ав.\n");
+    EXPECT_EQ(raw("-cause"), "");
+    EXPECT_EQ(place.kzdic({"lookup", "--raw", "--prefix", "o.dic", "--", "-a"}).out,
+              "able*Nперевод слова\\\\-able\n");
   }
 }
 

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <random>
 #include <string>
@@ -13,6 +12,7 @@
 #include "kz/charclass.h"
 #include "kz/codepage.h"
 #include "kz/entry.h"
+#include "tests/support/source_tree.h"
 #include "tests/support/utf8.h"
 #include "text/literal.h"
 
@@ -269,7 +269,7 @@ Page page_of(std::string_view language) {
 }
 
 TEST(EntryConversion, OfTheSampleDictionariesGivesOemTextAndComesBack) {
-  const auto data = std::filesystem::path(__FILE__).parent_path() / "../../../data";
+  const auto data = kz::test::source_tree() / "data";
   for (const std::string language : {"ENRU", "RUEN", "DERU", "RUDE", "FRRU", "RUFR"}) {
     std::string name = "base" + language + ".txt";
     std::ifstream source(data / __strlwr(name.data()));

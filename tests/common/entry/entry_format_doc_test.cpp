@@ -1,12 +1,12 @@
 // The examples of docs/entry-format.md, read from the page itself.
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
 
 #include "kz/entry.h"
+#include "tests/support/source_tree.h"
 #include "tests/support/utf8.h"
 
 namespace {
@@ -42,8 +42,7 @@ std::string shown(CDicEntry& entry) {
 }
 
 TEST(EntryFormatPage, ShowsWhatTheLibraryDoes) {
-  const auto root = std::filesystem::path(__FILE__).parent_path() / "../../..";
-  std::ifstream page(root / "docs/entry-format.md");
+  std::ifstream page(kz::test::source_tree() / "docs/entry-format.md");
   int examples = 0;
   for (std::string line; std::getline(page, line);) {
     if (line != "```entry") continue;

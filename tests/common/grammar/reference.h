@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
@@ -13,6 +12,7 @@
 #include <vector>
 
 #include "kz/gram_record.h"
+#include "tests/support/source_tree.h"
 #include "tests/support/utf8.h"
 
 namespace reference {
@@ -52,7 +52,7 @@ inline std::vector<std::string> cells_of(const std::string& row) {
 
 inline Page read_page() {
   Page page;
-  std::ifstream in(std::filesystem::path(__FILE__).parent_path() / "../../../docs/grammar.md");
+  std::ifstream in(kz::test::source_tree() / "docs/grammar.md");
   std::string fence, heading;
   for (std::string utf8; std::getline(in, utf8);) {
     const std::string line = encoded_1251(utf8);

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <regex>
@@ -14,9 +13,10 @@
 #include "kz/charclass.h"
 #include "kz/compare.h"
 #include "kz/special.h"
-#include "tests/support/utf8.h"
 #include "tests/common/text/reference.h"
 #include "tests/common/text/text_at_page_end.h"
+#include "tests/support/source_tree.h"
+#include "tests/support/utf8.h"
 #include "text/literal.h"
 
 namespace {
@@ -170,8 +170,7 @@ std::string smart(const std::string& text, int capitals) {
 // The page shows pairs of an English text and a Russian one, three a line, with blanks between
 // them.
 TEST(SmartTranslit, GivesTheExamplesOfItsPage) {
-  const auto root = std::filesystem::path(__FILE__).parent_path() / "../../..";
-  std::ifstream page(root / "docs/conversions.md");
+  std::ifstream page(kz::test::source_tree() / "docs/conversions.md");
   std::string line;
   while (std::getline(page, line) && line != "```smart") continue;
   const std::regex pair(R"re((\S+(?: \S+)*)  +(?:"([^"]*)"|(\S+(?: \S+)*)))re");
