@@ -3,6 +3,7 @@
 
 #include "tools/command_line.h"
 #include "tools/lookup_command.h"
+#include "tools/option_checks.h"
 
 namespace kzdic {
 
@@ -18,7 +19,7 @@ void add_lookup_command(CLI::App& app, Status& status) {
       ->add_option("-d,--dictionary", options.dictionaries,
                    "A dictionary; all arguments are words then")
       ->type_name("FILE")
-      ->expected(1);
+      ->allow_extra_args(false);
   command
       ->add_option("ARGUMENT", stored->arguments,
                    "FILE... WORD...: the first is a dictionary, and so are those behind it that "
@@ -29,8 +30,7 @@ void add_lookup_command(CLI::App& app, Status& status) {
       command
           ->add_option("--set", options.set.directory,
                        "Directory of a set of dictionaries; all arguments are words then")
-          ->type_name("DIRECTORY")
-          ->check(CLI::ExistingDirectory);
+          ->type_name("DIRECTORY");
   command->add_option("--direction", options.set.direction, "Direction of the set")
       ->type_name("{ENRU,RUEN,DERU,RUDE,FRRU,RUFR}")
       ->needs(set);
@@ -43,7 +43,8 @@ void add_lookup_command(CLI::App& app, Status& status) {
   CLI::Option* prefix =
       command->add_flag("--prefix", options.prefix, "All headwords that begin with the word");
   command->add_option("--next", options.next, "Also the records behind it, so many")
-      ->type_name("N");
+      ->type_name("N")
+      ->check(whole_number());
   command
       ->add_option("--inflected", options.inflected,
                    "Inflection table that leads from a Russian form to its headwords")

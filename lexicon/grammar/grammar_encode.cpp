@@ -98,7 +98,7 @@ std::string vocabulary(char code, std::string_view only = {}) {
     list += (list.empty() ? "=" : ",") + (placed ? example.placeholder : example.field.value);
   }
   std::string text;
-  for (const std::string& name : names) text += "\n  " + name + values[name];
+  for (const std::string& name : names) text += (text.empty() ? " " : "; ") + name + values[name];
   return text;
 }
 

@@ -113,7 +113,7 @@ TEST(GrammarFields, AreRefusedWhenNoTagStringSaysThem) {
   EXPECT_THAT(refusal("A", {"flag=5/4"}), HasSubstr("flag=5/4"));
   EXPECT_THAT(refusal("N", {"masculin"}), HasSubstr("did you mean masculine?"));
   EXPECT_THAT(refusal("N", {"gender=femnine"}), HasSubstr("did you mean gender=feminine?"));
-  EXPECT_THAT(refusal("I", {"colour=red"}), HasSubstr("number=plural\n  case=nominative,genitive"));
+  EXPECT_THAT(refusal("I", {"colour=red"}), HasSubstr("number=plural; case=nominative,genitive"));
   for (const char* bad : {"person=4", "person=", "paradigm=65535", "small-number=32",
                           "latin-tag=X12", "paradigm-letter=ab", "semantics=q", "flag=9/99"}) {
     EXPECT_THAT(refusal("V", {bad}), HasSubstr("no such value: '" + std::string(bad))) << bad;
@@ -121,8 +121,8 @@ TEST(GrammarFields, AreRefusedWhenNoTagStringSaysThem) {
   for (const char* bad : {"=", "=1", ""}) {
     EXPECT_THAT(refusal("V", {bad}), HasSubstr("unknown field")) << bad;
   }
-  EXPECT_THAT(refusal("V", {"person=4"}), EndsWith(" takes\n  person=0..3"));
-  EXPECT_THAT(refusal("V", {"gender"}), EndsWith(" takes\n  gender=masculine,feminine"));
+  EXPECT_THAT(refusal("V", {"person=4"}), EndsWith(" takes person=0..3"));
+  EXPECT_THAT(refusal("V", {"gender"}), EndsWith(" takes gender=masculine,feminine"));
   EXPECT_THAT(refusal("NN", {}), HasSubstr("not one character"));
   EXPECT_THAT(kzdic::Unmappable(U'\0', kzdic::CodePage::kRussian).what(),
               HasSubstr("U+0000) is not in Windows-1251"));
@@ -149,6 +149,8 @@ TEST_F(GrammarCommandTest, DecodesInWords) {
             "semantics        N, A, F\n"
             "canonical        MP-S@x#12a:3%NAF  (without case=nominative)\n"
             "ignored          1е|\n");
+  EXPECT_EQ(place.kzdic({"grammar", "decode", "V", "--", "-ET"}).out,
+            place.kzdic({"grammar", "decode", "V", "-ET"}).out);
   EXPECT_EQ(place.kzdic({"grammar", "decode", "V", "-ET"}).out,
             "part-of-speech   V, verb (verb tags)\n"
             "aspect           imperfective\n"
@@ -158,7 +160,6 @@ TEST_F(GrammarCommandTest, DecodesInWords) {
               HasSubstr("not read         |-E"));
   EXPECT_EQ(place.kzdic({"grammar", "decode", "N"}).status, 2);
   EXPECT_EQ(place.kzdic({"grammar", "decode", "N", "--tags"}).status, 2);
-  EXPECT_EQ(place.kzdic({"grammar", "decode", "N", "ß"}).status, 5);
   EXPECT_EQ(place.kzdic({"grammar", "decode", "N", std::string(1001, 'M')}).status, 2);
 }
 
