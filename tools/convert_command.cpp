@@ -135,6 +135,8 @@ class FullConversion : public LineFilter {
     if (options_.check) out.resize(size);
   }
 
+  bool reads_utf8() const override { return from_.form != Form::kPage; }
+
   void describe(const Block& line, Json& object) override {
     const std::u32string text = decode(line.text, from_);
     object["input"] = from_.form == Form::kPage ? to_utf8(text) : std::string(line.text);
@@ -195,6 +197,8 @@ class NarrowConversion : public LineFilter {
   void answer(const Block& block, std::string& out) override {
     append_narrowed(block.text, pair_, out);
   }
+
+  bool reads_utf8() const override { return false; }
 
   void describe(const Block& line, Json& object) override {
     std::string out;

@@ -32,7 +32,7 @@ std::string argument(const char* option, const std::string& utf8, CodePage page)
   } catch (const Unmappable& error) {
     throw Failure(Status::kCodePage, std::string(option) + ": " + error.what());
   } catch (const BadUtf8&) {
-    throw Failure(Status::kUsage, std::string(option) + " is not UTF-8");
+    throw Failure(Status::kDamaged, std::string(option) + " is not UTF-8");
   }
 }
 

@@ -51,6 +51,10 @@ class TextPrinter : public Printer {
     if (line) out_ << '\n';
   }
 
+  void refuse(const std::string& word, const std::string& message, bool line) override {
+    (line ? out_ : std::cerr << "kzdic: ") << word << ": " << message << (line ? "\n\n" : "\n");
+  }
+
  private:
   void print_entry(const std::string& text, const std::string& language) {
     const EntryView entry = view_record(text, language);
@@ -109,6 +113,11 @@ class RawPrinter : public Printer {
     }
   }
 
+  void refuse(const std::string& word, const std::string& message, bool line) override {
+    std::cerr << "kzdic: " << word << ": " << message << '\n';
+    if (line) out_ << '\n';
+  }
+
  private:
   std::ostream& out_;
 };
@@ -125,11 +134,19 @@ class JsonPrinter : public Printer {
         answer["entries"].push_back(entry_object(entry, dictionary));
       }
     }
-    out_ << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+    write(answer);
+  }
+
+  void refuse(const std::string& word, const std::string& message, bool) override {
+    write({{"query", word}, {"error", message}});
   }
 
  private:
   using Json = nlohmann::ordered_json;
+
+  void write(const Json& answer) {
+    out_ << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+  }
 
   Json entry_object(const std::string& text, const Found& dictionary) const {
     const EntryView entry = view_record(text, dictionary.language);

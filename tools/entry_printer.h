@@ -28,6 +28,8 @@ class Printer {
   // standard input (`line`) gets an answer that can be told from the next one: exactly one line of
   // JSON, or lines of text that end with an empty line.
   virtual void print(const std::string& word, const std::vector<Found>& found, bool line) = 0;
+  // The same for a word that cannot be looked up.
+  virtual void refuse(const std::string& word, const std::string& message, bool line) = 0;
 };
 
 // With `grammar`, text and JSON also tell what attribute blocks say.

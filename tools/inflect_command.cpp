@@ -95,12 +95,12 @@ struct Reading {
   std::vector<std::string> grammar;
 };
 
-// The word as the table has it; empty for one that cannot be a Russian word.
+// The word as the table has it; empty for one that cannot be a Russian word. Throws BadUtf8.
 std::string table_word(const std::string& word) {
   try {
     const std::string bytes = encode(from_utf8(word), CodePage::kRussian);
     return bytes.find('\0') == std::string::npos ? lower_case(bytes, "RU") : std::string();
-  } catch (const std::runtime_error&) {
+  } catch (const Unmappable&) {
     return {};
   }
 }
@@ -120,6 +120,17 @@ class Inflection {
       print_json(word, bytes, endings);
     } else {
       print_text(word, endings, line);
+    }
+    std::cout.flush();
+  }
+
+  // Says why a word cannot be taken apart.
+  void refuse(const std::string& word, const std::string& message, bool line) {
+    if (options_.json) {
+      print({{"word", word}, {"error", message}});
+    } else {
+      (line ? std::cout : std::cerr << "kzdic: ")
+          << word << ": " << message << (line ? "\n\n" : "\n");
     }
     std::cout.flush();
   }
@@ -164,6 +175,10 @@ class Inflection {
            {"attributes", attributes(*entry)},
            {"records", records}});
     }
+    print(answer);
+  }
+
+  static void print(const Json& answer) {
     std::cout << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
   }
 
@@ -181,8 +196,13 @@ Status inflect(const InflectOptions& options) {
   if (!options.source.empty()) build_table(options.source, options.table, &std::cin);
   if (options.words.empty()) return Status::kOk;
   Inflection session(options);
-  for_each_word(options.words,
-                [&session](const std::string& word, bool line) { session.answer(word, line); });
+  const Status status =
+      for_each_word(options.words,
+                    {[&session](const std::string& word, bool line) { session.answer(word, line); },
+                     [&session](const std::string& word, const std::string& message, bool line) {
+                       session.refuse(word, message, line);
+                     }});
+  if (status != Status::kOk) return status;
   return session.all_known() ? Status::kOk : Status::kNotFound;
 }
 

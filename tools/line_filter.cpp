@@ -15,6 +15,7 @@
 
 #include "lexicon/text/code_page.h"
 #include "lexicon/file/outputs.h"
+#include "tools/input_lines.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -125,6 +126,7 @@ class Run {
     LineReader reader(path);
     std::size_t line = 1;
     for (std::string_view text; !(text = reader.next()).empty();) {
+      if (line == 1 && filter_.reads_utf8()) text.remove_prefix(byte_order_mark(text));
       answer({text, reader.name(), line});
       line += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
     }

@@ -46,6 +46,9 @@ class LineFilter {
   static constexpr std::size_t kPiece = 65536;
   virtual std::size_t piece_size(std::string_view line, std::size_t offset);
 
+  // Whether the text is UTF-8, in which a byte-order mark may come first.
+  virtual bool reads_utf8() const { return true; }
+
   // Tells about one line without its line end, when JSON is wanted: its answer, as "output".
   virtual void describe(const Block& line, nlohmann::ordered_json& object);
 };

@@ -59,6 +59,12 @@ class Lookup {
     std::cout.flush();
   }
 
+  // Says why a word cannot be looked up.
+  void refuse(const std::string& word, const std::string& message, bool line) {
+    printer_->refuse(word, message, line);
+    std::cout.flush();
+  }
+
   bool all_found() const { return all_found_; }
 
  private:
@@ -99,8 +105,13 @@ Status lookup(const LookupOptions& options) {
   }
   if (options.words.empty()) throw Failure(Status::kUsage, "no word is given");
   Lookup session(options);
-  for_each_word(options.words,
-                [&session](const std::string& word, bool line) { session.answer(word, line); });
+  const Status status =
+      for_each_word(options.words,
+                    {[&session](const std::string& word, bool line) { session.answer(word, line); },
+                     [&session](const std::string& word, const std::string& message, bool line) {
+                       session.refuse(word, message, line);
+                     }});
+  if (status != Status::kOk) return status;
   return session.all_found() ? Status::kOk : Status::kNotFound;
 }
 

@@ -17,7 +17,7 @@ std::string to_bytes(std::string_view text, const char* what) {
   try {
     return encode(from_utf8(text), CodePage::kRussian);
   } catch (const BadUtf8&) {
-    throw Error(ErrorCode::kCodePage, std::string(what) + " is not UTF-8");
+    throw Error(ErrorCode::kData, std::string(what) + " is not UTF-8");
   } catch (const Unmappable& error) {
     throw Error(ErrorCode::kCodePage, std::string(what) + ": " + error.what());
   }

@@ -118,6 +118,7 @@ std::vector<PlainEntry> read_marked(const std::vector<std::u32string>& lines) {
 }
 
 std::vector<PlainEntry> read_article(std::u32string_view article) {
+  if (article.starts_with(U'\uFEFF')) article.remove_prefix(1);
   const std::vector<std::u32string> lines = lines_of(article);
   if (lines.empty()) return {};
   return is_marked(lines[0]) ? read_marked(lines) : read_labelled(lines);

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "kzlexicon/error.h"
+#include "tools/input_lines.h"
 
 namespace kz::lexicon {
 namespace {
@@ -114,6 +115,7 @@ void DictdDatabase::read_index(const std::string& path) {
     throw Error(ErrorCode::kFile, std::string("cannot open: ") + std::strerror(errno), {path});
   std::string line;
   for (std::size_t number = 1; std::getline(in, line); ++number) {
+    if (number == 1) line.erase(0, byte_order_mark(line));
     const std::size_t first = line.find('\t');
     const std::size_t second = first == std::string::npos ? first : line.find('\t', first + 1);
     if (second == std::string::npos) {

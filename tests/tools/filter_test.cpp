@@ -181,6 +181,9 @@ TEST(Filter, KeepsLineEndsZerosAndLinesOfAnyLength) {
   EXPECT_EQ(convert(place, "html", "utf-8", "&#1078;\r\n&#x416;\r", {"--json"}).out,
             "{\"line\":1,\"input\":\"&#1078;\",\"output\":\"ж\",\"missing\":[]}\n"
             "{\"line\":2,\"input\":\"&#x416;\\r\",\"output\":\"Ж\\r\",\"missing\":[]}\n");
+  // A byte-order mark is passed over where the text is UTF-8.
+  EXPECT_EQ(convert(place, "utf-8", "koi8-r", "\xEF\xBB\xBFмир").out, "\xCD\xC9\xD2");
+  EXPECT_EQ(convert(place, "cp1251", "utf-8", "\xEF\xBB\xBF").out, "п»ї");
   const Outcome bad = place.kzdic({"layout", "--to", "latin"}, "фы\n\nф\xD0\n");
   EXPECT_EQ(bad.status, 4);
   EXPECT_EQ(bad.out, "as\n\n");
