@@ -41,44 +41,47 @@ std::string type_of_extension(const std::string& path) {
   return {};
 }
 
-Properties settle_properties(const BuildOptions& options, const Properties& directives) {
-  const auto stated = [](const std::string& option, const std::string& directive) {
-    return option.empty() ? directive : option;
-  };
-  Properties result;
-  result.language = stated(options.properties.language, directives.language);
-  result.type = stated(options.properties.type, directives.type);
-  result.title = stated(options.properties.title, directives.title);
-  result.label = stated(options.properties.label, directives.label);
-  if (result.language.empty()) {
+[[noreturn]] void refuse(const Property& property, const std::string& message) {
+  throw Failure(property.place.empty() ? Status::kUsage : Status::kDamaged,
+                property.place + message);
+}
+
+std::string settle_language(const Property& language) {
+  if (!language.value) {
     throw Failure(Status::kUsage,
                   "no language: use --language or a line '*: language ENRU' in the source");
   }
-  if (!is_language(result.language)) {
-    throw Failure(Status::kUsage, "no such language: " + result.language +
-                                      " (EN, RU, DE, FR, ENRU, RUEN, DERU, RUDE, FRRU, RUFR)");
-  }
-  if (result.type.empty()) result.type = type_of_extension(options.output);
-  if (result.type.empty()) result.type.assign(1, result.language.size() == 4 ? 'C' : 'G');
-  if (result.type.size() != 1 || std::string_view("CSTHG").find(result.type) == std::string::npos) {
-    throw Failure(Status::kUsage, "no such type: " + result.type + " (C, S, T, H, G)");
-  }
-  return result;
+  if (is_language(*language.value)) return *language.value;
+  refuse(language, "no such language: " + *language.value +
+                       " (EN, RU, DE, FR, ENRU, RUEN, DERU, RUDE, FRRU, RUFR)");
 }
 
-std::string header_text(const std::string& name, const std::string& utf8,
+std::string settle_type(const Property& type, const std::string& output,
+                        const std::string& language) {
+  if (!type.value) {
+    const std::string told = type_of_extension(output);
+    return told.empty() ? std::string(1, language.size() == 4 ? 'C' : 'G') : told;
+  }
+  const bool known =
+      type.value->size() == 1 && std::string_view("CSTHG").find(*type.value) != std::string::npos;
+  if (known) return *type.value;
+  refuse(type, "no such type: " + *type.value + " (C, S, T, H, G)");
+}
+
+std::string header_text(const std::string& name, const Property& property,
                         const std::string& language, std::size_t limit) {
+  const std::string utf8 = property.value.value_or("");
   std::string text;
   try {
     text = encode(from_utf8(utf8), header_page(language));
   } catch (const Unmappable& error) {
-    throw Failure(Status::kCodePage, "the " + name + ": " + error.what());
+    throw Failure(Status::kCodePage, property.place + "the " + name + ": " + error.what());
   } catch (const BadUtf8&) {
-    throw Failure(Status::kUsage, "the " + name + " is not UTF-8");
+    throw Failure(Status::kDamaged, property.place + "the " + name + " is not UTF-8");
   }
   if (text.size() > limit) {
-    throw Failure(Status::kUsage, "the " + name + " is longer than " + std::to_string(limit) +
-                                      " characters: " + utf8);
+    refuse(property,
+           "the " + name + " is longer than " + std::to_string(limit) + " characters: " + utf8);
   }
   return text;
 }
@@ -197,16 +200,18 @@ std::size_t count_headwords(const std::vector<Record>& records) {
 
 void build(const BuildOptions& options) {
   refuse_inputs_as_output(options.output, options.sources);
-  const SourceText source = read_source(options.sources, Marked::kDirective, &std::cin);
-  const Properties properties = settle_properties(options, source.properties);
-  const std::string& language = properties.language;
-  const bool word_list = properties.type == "S";
+  const SourceText source = read_source(options.sources, Marked::kDirective, options.properties, &std::cin);
+  check_standard_input();
+  const Properties& properties = source.properties;
+  const std::string language = settle_language(properties.language);
+  const std::string type = settle_type(properties.type, options.output, language);
+  const bool word_list = type == "S";
   const bool may_share = (options.shared || options.packed) && !options.no_shared && !word_list;
   HeaderText header{language,
-                    properties.type,
+                    type,
                     header_text("title", properties.title, language, kTitleMax),
                     header_text("label", properties.label, language, kLabelMax),
-                    header_text("password", options.password, language, kPasswordMax),
+                    header_text("password", {options.password, {}}, language, kPasswordMax),
                     options.time_stamp};
 
   Refusals refusals(options.skip_bad);

@@ -6,9 +6,17 @@
 #include "tools/dump_command.h"
 #include "tools/import_command.h"
 #include "tools/info_command.h"
+#include "tools/option_checks.h"
 
 namespace kzdic {
 namespace {
+
+// An option that states a property of the dictionary, be it the empty text.
+CLI::Option* add_property(CLI::App& command, const char* name, Property& property,
+                          const char* description) {
+  return command.add_option_function<std::string>(
+      name, [&property](const std::string& value) { property.value = value; }, description);
+}
 
 void add_build(CLI::App& app) {
   const auto stored = std::make_shared<BuildOptions>();
@@ -22,17 +30,17 @@ void add_build(CLI::App& app) {
   command->add_option("-o,--output", options.output, "The dictionary file to write")
       ->type_name("FILE")
       ->required();
-  command
-      ->add_option("--language", options.properties.language,
-                   "Language pair or language of the dictionary")
+  Properties& properties = options.properties;
+  add_property(*command, "--language", properties.language,
+               "Language pair or language of the dictionary")
       ->type_name("{ENRU,RUEN,DERU,RUDE,FRRU,RUFR,EN,RU,DE,FR}");
-  command
-      ->add_option("--type", options.properties.type,
-                   "Type letter (default: from the name of the output)")
+  add_property(*command, "--type", properties.type,
+               "Type letter (default: from the name of the output)")
       ->type_name("{C,S,T,H,G}");
-  command->add_option("--title", options.properties.title, "Title, at most 40 characters")
+  add_property(*command, "--title", properties.title, "Title, at most 40 characters")
       ->type_name("TEXT");
-  command->add_option("--label", options.properties.label, "Label, at most 8 characters");
+  add_property(*command, "--label", properties.label, "Label, at most 8 characters")
+      ->type_name("TEXT");
   command->add_option("--password", options.password, "Password, at most 8 characters");
   CLI::Option* packed = command->add_flag("--packed", options.packed, "Front-coded records");
   command
@@ -53,6 +61,7 @@ void add_build(CLI::App& app) {
       ->add_option("--timestamp", options.time_stamp,
                    "Time in the header, in seconds since 1970 (default: 0)")
       ->type_name("SECONDS")
+      ->check(whole_number())
       ->envname("SOURCE_DATE_EPOCH");
   command->add_flag("-q,--quiet", options.quiet, "No summary");
   command->callback([stored] { build(*stored); });
@@ -64,9 +73,9 @@ void add_import(CLI::App& app) {
   CLI::App* command = app.add_subcommand("import", "Turn another program's database into source");
   command->add_option("--from", options.from, "Kind of database")
       ->required()
-      ->type_name("KIND")
-      ->check(CLI::IsMember({"dictd"}));
-  command->add_option("BASE", options.base, "Database, without .index, .dict or .dict.dz")
+      ->type_name("{dictd}")
+      ->check(one_of({"dictd"}));
+  command->add_option("BASE", options.base, "Database, with or without .index, .dict or .dict.dz")
       ->type_name("FILE")
       ->required();
   command
@@ -74,7 +83,8 @@ void add_import(CLI::App& app) {
       ->type_name("FILE")
       ->required();
   command->add_option("--language", options.language, "Language pair (default: told from the data)")
-      ->type_name("{ENRU,RUEN,DERU,RUDE,FRRU,RUFR}");
+      ->type_name("{ENRU,RUEN,DERU,RUDE,FRRU,RUFR}")
+      ->check(one_of({"ENRU", "RUEN", "DERU", "RUDE", "FRRU", "RUFR"}));
   command->add_flag("-q,--quiet", options.quiet, "No summary");
   command->callback([stored] { import_dictd(*stored); });
 }

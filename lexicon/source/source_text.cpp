@@ -8,11 +8,11 @@
 #include <string_view>
 
 #include "kzlexicon/error.h"
+#include "tools/input_lines.h"
 
 namespace kz::lexicon {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t";
 
 std::string_view trim(std::string_view text) {
@@ -21,7 +21,7 @@ std::string_view trim(std::string_view text) {
   return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
 }
 
-std::string* property(Properties& properties, std::string_view name) {
+Property* property(Properties& properties, std::string_view name) {
   if (name == "language") return &properties.language;
   if (name == "type") return &properties.type;
   if (name == "title") return &properties.title;
@@ -34,27 +34,28 @@ void take_directive(SourceText& source, const SourceLine& line) {
   const std::size_t name_end = std::min(text.find_first_of(kBlanks), text.size());
   const std::string_view name = text.substr(0, name_end);
   const std::string_view value = trim(text.substr(name_end));
-  std::string* stated = property(source.properties, name);
+  Property* const stated = property(source.properties, name);
   if (stated == nullptr) {
     throw Error(
         ErrorCode::kData,
         "unknown directive '" + std::string(name) + "' (there are language, type, title and label)",
         {source.files[line.file], line.line});
   }
-  if (!stated->empty() && *stated != value) {
-    throw Error(ErrorCode::kData, std::string(name) + " was stated before as '" + *stated + "'",
+  // An option has no place.
+  if (stated->value && stated->place.empty()) return;
+  if (stated->value && *stated->value != value) {
+    throw Error(ErrorCode::kData,
+                std::string(name) + " was stated before as '" + *stated->value + "'",
                 {source.files[line.file], line.line});
   }
-  *stated = value;
+  *stated = {std::string(value), source.place(line, "")};
 }
 
 void read_lines(SourceText& source, std::istream& in, Marked marked) {
   SourceLine line{source.files.size() - 1, 0, {}};
   while (std::getline(in, line.text)) {
     ++line.line;
-    if (line.line == 1 && line.text.starts_with(kByteOrderMark)) {
-      line.text.erase(0, kByteOrderMark.size());
-    }
+    if (line.line == 1) line.text.erase(0, byte_order_mark(line.text));
     if (line.text.ends_with('\r')) line.text.pop_back();
     if (marked == Marked::kDirective && line.text.starts_with("*:")) {
       take_directive(source, line);
@@ -71,8 +72,9 @@ std::string SourceText::place(const SourceLine& line, const std::string& message
 }
 
 SourceText read_source(const std::vector<std::string>& paths, Marked marked,
-                       std::istream* standard_input) {
+                       const Properties& options, std::istream* standard_input) {
   SourceText source;
+  source.properties = options;
   for (const std::string& path : paths) {
     if (path == "-" && standard_input != nullptr) {
       source.files.emplace_back("(standard input)");

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,12 +19,17 @@ struct SourceLine {
   std::string text;  // UTF-8, not yet checked
 };
 
-// What directives or options state; empty where nothing is stated.
+// What an option or a directive states; no value where nothing is stated.
+struct Property {
+  std::optional<std::string> value;
+  std::string place;  // "file:line: " of a directive, empty for an option
+};
+
 struct Properties {
-  std::string language;
-  std::string type;
-  std::string title;
-  std::string label;
+  Property language;
+  Property type;
+  Property title;
+  Property label;
 };
 
 struct SourceText {
@@ -38,9 +44,10 @@ struct SourceText {
 // What a line that begins with "*:" is.
 enum class Marked { kDirective, kComment };
 
-// Reads the files in order; "-" is `standard_input`, if given. Files may repeat a directive but not
-// contradict one another. Throws Error.
+// Reads the files in order; "-" is `standard_input`, if given. Files may repeat a directive but not contradict
+// one another; directives on what options state are passed over. Throws Error.
 SourceText read_source(const std::vector<std::string>& paths, Marked marked = Marked::kDirective,
+                       const Properties& options = {},
                        std::istream* standard_input = nullptr);
 
 }  // namespace kz::lexicon
