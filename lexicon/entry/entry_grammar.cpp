@@ -22,10 +22,23 @@ void add(Side side, const std::string& synonym, const std::string& part_code,
   }
 }
 
+// Where the tags of the one side end at "|", or npos. Behind "%" a "|" is passed over like any
+// other character that is no semantic letter.
+std::size_t find_bar(const std::string& part_code, const std::string& tags) {
+  try {
+    const std::size_t end = tags.size() - decode_tags(part_code, tags).unread.size();
+    const bool closed = end > 0 && tags[end - 1] == ')';
+    return end < tags.size() && tags[end] == '|' && !closed ? end : std::string::npos;
+  } catch (const Error&) {
+    return std::string::npos;
+  }
+}
+
 // A block parts the sides with "|". Without one it tells of `lone`.
 void add_block(Side lone, const std::string& part_code, const std::string& tags,
                std::vector<WordGrammar>& words) {
-  const std::size_t bar = tags.find('|');
+  if (part_code.empty()) return;
+  const std::size_t bar = find_bar(part_code, tags);
   if (bar == std::string::npos) {
     add(lone, "", part_code, tags, words);
   } else {

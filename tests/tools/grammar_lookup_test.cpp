@@ -16,7 +16,9 @@ TEST(GrammarLookup, TellsWhatBlocksSayOfEachWord) {
   place.write("s.txt",
               "*: language ENRU\n"
               "bed*N[|F]1.кровать/2. мор.:{дно}русло[N];яма/Vспать[-E]\n"
-              "water*N[-P|F]1.вода/2.[P]{курорт}воды\n");
+              "water*N[-P|F]1.вода/2.[P]{курорт}воды\n"
+              "bank*N[%A|M]1.банк/2.[F%N|M]берег\n"
+              "x-ray*N[M)|F]луч\n");
   ASSERT_EQ(place.kzdic({"build", "s.txt", "-o", "en.dic"}).status, 0);
   EXPECT_EQ(place.kzdic({"lookup", "--grammar", "en.dic", "bed", "water"}).out,
             "bed  (en.dic, as typed)\n"
@@ -33,6 +35,18 @@ TEST(GrammarLookup, TellsWhatBlocksSayOfEachWord) {
             "    1. вода\n"
             "    2. {курорт} воды\n"
             "       Russian: plural\n");
+  // Semantics go on behind a bar, and nothing behind a parenthesis is read.
+  EXPECT_EQ(place.kzdic({"lookup", "--grammar", "en.dic", "bank", "x-ray"}).out,
+            "bank  (en.dic, as typed)\n"
+            "  bank, noun [%A|M]\n"
+            "    English: semantics A, M\n"
+            "    1. банк\n"
+            "    2. берег\n"
+            "       Russian: feminine, semantics N, M\n"
+            "x-ray  (en.dic, as typed)\n"
+            "  x-ray, noun [M)|F]\n"
+            "    English: masculine\n"
+            "    луч\n");
   const json entry = json::parse(
       place.kzdic({"lookup", "--grammar", "--json", "en.dic", "bed"}).out)["entries"][0];
   EXPECT_EQ(entry["grammar"]["target"]["canonical"], "F");
