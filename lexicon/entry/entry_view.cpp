@@ -9,6 +9,7 @@
 #include "lexicon/entry/entry_blocks.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
+#include "tools/entry_marks.h"
 
 namespace kz::lexicon {
 namespace {
@@ -31,8 +32,15 @@ constexpr std::array<std::pair<std::string_view, const char*>, 25> kParts = {{
 
 bool is_latin(char32_t c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-// Adds a character to a text in which blanks neither double nor stand inside parentheses' edges.
+// Adds a character to a text in which blanks neither double nor stand inside parentheses' edges,
+// nor beside joins.
 void add_tidily(std::u32string& text, char32_t c) {
+  constexpr auto kJoined = static_cast<char32_t>(kJoin);
+  if (c == kJoined && text.ends_with(U' ')) text.pop_back();
+  if (text.ends_with(kJoined)) {
+    if (c == U' ') return;
+    text.pop_back();
+  }
   const bool after_blank = text.empty() || text.back() == ' ';
   if (c == ' ' && (after_blank || text.back() == '(')) return;
   if (c == ')' && !text.empty() && after_blank) text.pop_back();
@@ -64,7 +72,8 @@ std::u32string plain_synonym(std::u32string_view synonym, bool target_is_russian
       add_tidily(text, c);
     }
   }
-  while (!text.empty() && text.back() == ' ') text.pop_back();
+  while (text.ends_with(U' ') || text.ends_with(static_cast<char32_t>(kJoin))) text.pop_back();
+  if (text.starts_with(U"= ")) text.erase(1, 1);
   return text;
 }
 
@@ -72,7 +81,8 @@ class Viewer {
  public:
   Viewer(const std::string& entry, const std::string& language)
       : language_(language),
-        handle_(DicEntryOpen(entry.c_str(), 0, nullptr, nullptr, language.c_str(), 'c')) {}
+        handle_(DicEntryOpen(with_marks(entry, language).c_str(), 0, nullptr, nullptr,
+                             language.c_str(), 'c')) {}
 
   EntryView view(const std::string& entry) const {
     EntryView view;
@@ -97,8 +107,19 @@ class Viewer {
   }
 
  private:
+  static std::string with_marks(std::string entry, const std::string& language) {
+    const EntryLayout at = layout_of(entry);
+    if (at.part >= entry.size()) return entry;
+    const std::string_view body = std::string_view(entry).substr(at.body, at.source - at.body);
+    const std::string marked = marked_body(body, entry[at.part], language);
+    return entry.replace(at.body, body.size(), marked);
+  }
+
   static std::string text(const char* bytes, CodePage page) {
-    return bytes == nullptr ? std::string() : to_utf8(decode(bytes, page));
+    if (bytes == nullptr) return {};
+    std::string text = bytes;
+    std::erase(text, kJoin);
+    return to_utf8(decode(text, page));
   }
 
   // Gives every block in front of a meaning to the next meaning with its label.

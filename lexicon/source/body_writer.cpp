@@ -206,7 +206,11 @@ std::vector<std::u32string> BodyWriter::meaning_texts(const PlainMeaning& meanin
   std::vector<std::u32string> texts;
   for (const std::u32string& synonym : meaning.synonyms) {
     for (const std::u32string& piece : cut(storable(synonym), kSynonymMax)) {
-      std::u32string text = trimmed(with_paired_parentheses(protect(piece)));
+      // "= word" refers to another word.
+      const bool reference = piece.starts_with(U"= ") && texts.empty() && piece.size() > 2;
+      std::u32string text =
+          trimmed(with_paired_parentheses(protect(piece.substr(reference ? 2 : 0))));
+      if (reference && !text.empty()) text.insert(0, 1, U'=');
       // A brace group at the start of a meaning is its definition, which cannot stand alone.
       if (texts.empty() && text.starts_with(U'{') && text.find(U'}') + 1 == text.size()) {
         std::erase_if(text, [](char32_t c) { return c == U'(' || c == U')'; });

@@ -67,16 +67,19 @@ TEST_F(LookupTest, FindsBeginningsAndNeighbours) {
 }
 
 TEST_F(LookupTest, AnswersEveryInputLineOnce) {
-  const std::string input = "tea\n\nnothing\nTee\r\n*\n\xFF\n";
+  // A byte-order mark is no part of the first word.
+  const std::string input = "\xEF\xBB\xBFtea\n\nnothing\n\xFF\nTee\r\n*\n";
   const Outcome lines = place.kzdic({"lookup", "--json", "en.dic", "de.dic", "-"}, input);
-  EXPECT_EQ(lines.status, 1);
+  EXPECT_EQ(lines.status, 4);
   std::istringstream in(lines.out);
   std::vector<std::string> answers;
   for (std::string line; std::getline(in, line);) {
-    const json answer = json::parse(line);
-    answers.push_back(answer["found"] ? answer["entries"][0]["dictionary"] : json("-"));
+    json answer = json::parse(line);
+    answers.push_back(answer.contains("error") ? answer["error"]
+                      : answer["found"]        ? answer["entries"][0]["dictionary"]
+                                               : json("-"));
   }
-  EXPECT_THAT(answers, ElementsAre("en.dic", "-", "-", "de.dic", "-", "-"));
+  EXPECT_THAT(answers, ElementsAre("en.dic", "-", "-", "byte 1 is not UTF-8", "de.dic", "-"));
   EXPECT_EQ(place.kzdic({"lookup", "--raw", "en.dic", "-"}, "tea\nnothing\nten\n").out,
             "tea*Nчай\n\n\nten*Iдесять\n\n");
 }
@@ -95,11 +98,48 @@ TEST_F(LookupTest, JsonTakesTheEntryApart) {
   EXPECT_EQ(answer["entries"].size(), 2u);
 }
 
-TEST_F(LookupTest, RefusesFilesThatAreNoDictionaries) {
-  EXPECT_EQ(place.kzdic({"lookup", "none.dic", "tea"}).status, 3);
-  EXPECT_EQ(place.kzdic({"lookup", "s.txt", "tea"}).status, 4);
-  EXPECT_EQ(place.kzdic({"lookup", "en.dic"}).status, 2);
-  EXPECT_EQ(place.kzdic({"lookup", "--raw", "--json", "en.dic", "tea"}).status, 2);
+TEST_F(LookupTest, TakesDictionariesAndWordsAsTheyAreGiven) {
+  const std::vector<std::vector<std::string>> lines = {{"-d", "en.dic", "-d", "de.dic", "Tee"},
+                                                       {"-d", "en.dic", "de.dic", "Tee"},
+                                                       {"en.dic", "--", "-5", "Tee"},
+                                                       {"--", "en.dic", "de.dic", "--raw"},
+                                                       {"de.dic", "Tee", "--", "--", "-d"}};
+  std::vector<std::string> answers;
+  for (std::vector<std::string> line : lines) {
+    line.insert(line.begin(), {"lookup", "--raw"});
+    const Outcome outcome = place.kzdic(line);
+    answers.push_back(outcome.out + outcome.err);
+  }
+  EXPECT_THAT(answers, ElementsAre("tee*Nчай\\\\Tee\n", "de.dic: not found\nTee: not found\n",
+                                   "-5: not found\nTee: not found\n", "--raw: not found\n",
+                                   "tee*Nчай\\\\Tee\n--: not found\n-d: not found\n"));
+}
+
+TEST_F(LookupTest, ShowsReferencesAndParenthesesAsTheyStand) {
+  place.write(
+      "s.txt",
+      "*: language ENRU\nbow*V1.кланять(ся), гнуть(ся)/2.(по)клониться (низко); разг.)вниз (о)\n"
+      "nil*={см. zero}ноль\nnull*N1.ничто/2.=zero;={nought};ноль(и)Vобнулить\nzero*=nought\n");
+  place.write("t.txt",
+              "*: language RUEN\nдача*Ncottage(s)/=Дом;(un)do\nжилище*=дом 1,2\nключ*=key\n");
+  ASSERT_EQ(place.kzdic({"build", "s.txt", "-o", "a.dic"}).status, 0);
+  ASSERT_EQ(place.kzdic({"build", "t.txt", "-o", "b.dic"}).status, 0);
+  const auto meanings = [&](const char* dictionary, const char* word) {
+    const std::string out = place.kzdic({"lookup", dictionary, word}).out;
+    return out.substr(out.find("\n    ") + 1);
+  };
+  EXPECT_EQ(meanings("a.dic", "bow"),
+            "    1. кланять(ся), гнуть(ся)\n    2. (по)клониться (низко); разг.) вниз (о)\n");
+  EXPECT_EQ(meanings("a.dic", "nil"), "    {см. zero} ноль\n");
+  EXPECT_EQ(meanings("a.dic", "null"),
+            "    1. ничто\n    2. see zero; see nought; ноль(и)\n    verb: обнулить\n");
+  EXPECT_EQ(meanings("a.dic", "zero"), "    see nought\n");
+  EXPECT_EQ(meanings("b.dic", "дача"), "    cottage(s)\n    see Дом; (un)do\n");
+  EXPECT_EQ(meanings("b.dic", "жилище"), "    see дом 1,2\n");
+  EXPECT_EQ(meanings("b.dic", "ключ"), "    key\n");
+}
+
+TEST_F(LookupTest, RefusesADictionaryThatIsCutShort) {
   const std::string bytes = place.read("en.dic");
   place.write("cut.dic", bytes.substr(0, bytes.size() - 1));
   EXPECT_EQ(place.kzdic({"lookup", "cut.dic", "tea"}).status, 4);
