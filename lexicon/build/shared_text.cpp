@@ -53,10 +53,10 @@ std::optional<std::string> packed_refusal(std::string_view entry, std::string_vi
   const std::string_view headword = entry.substr(0, at.head_end);
   const auto bad = std::find_if(headword.begin(), headword.end(), breaks_packing);
   if (bad != headword.end()) {
-    const std::string_view character(&*bad, 1);
-    return "a packed record cannot hold the character '" +
-           to_utf8(decode(character, source_page(language))) +
-           "' of the headword (--fold-yo stores the letter ё as е)";
+    const std::u32string character = decode(std::string_view(&*bad, 1), source_page(language));
+    const bool yo = character == U"ё";
+    return "a packed record cannot hold the character '" + to_utf8(character) +
+           "' of the headword" + (yo ? " (--fold-yo stores the letter ё as е)" : "");
   }
   if (fits_packed(entry)) return std::nullopt;
   if (!may_share) return "the entry does not fit a packed record without shared text";
