@@ -61,6 +61,8 @@ class Import {
     for (const DictdEntry& entry : database_.entries()) write_entry(entry, out);
   }
 
+  bool empty() const { return lines_ == 0; }
+
   void report(const std::string& name) const {
     const Losses& losses = writer_.losses();
     std::cerr << name << ": " << database_.entries().size() << " articles, " << lines_
@@ -103,9 +105,8 @@ class Import {
   // The word in lower case, without what indexes leave out.
   std::optional<std::string> squeezed(std::u32string_view word) const {
     const CodePage page = source_page(language_);
-    auto plain = in_plain_letters(plain_headword(word), page);
+    const auto plain = in_plain_letters(plain_headword(word), page);
     if (!plain) return std::nullopt;
-    std::erase(*plain, U'…');
     std::string bytes = lower_case(encode(*plain, page), language_);
     std::erase_if(bytes, [](char c) { return c > 0 && _isalpha(c) == 0 && _isdigit(c) == 0; });
     return bytes;
@@ -179,15 +180,29 @@ std::string language_of_words(const DictdDatabase& database) {
   return russian_texts > half ? "ENRU" : "";
 }
 
-std::string settle_language(const ImportOptions& options, const DictdDatabase& database) {
+std::string settle_language(const ImportOptions& options, const std::string& base,
+                            const DictdDatabase& database) {
   std::string language = options.language;
-  if (language.empty()) language = language_of_name(options.base);
+  if (language.empty()) language = language_of_name(base);
   if (language.empty()) language = language_of_words(database);
   if (language.empty()) {
-    throw Failure(Status::kUsage, options.base + ": the languages cannot be told: use --language");
+    throw Failure(Status::kUsage, base + ": the languages cannot be told: use --language");
   }
-  if (!is_language(language)) throw Failure(Status::kUsage, "no such language: " + language);
   return language;
+}
+
+// The files of a database stand for it.
+std::string base_of(const std::string& path) {
+  for (const std::string_view extension : {".index", ".dict.dz", ".dict"}) {
+    if (path.ends_with(extension)) return path.substr(0, path.size() - extension.size());
+  }
+  return path;
+}
+
+// Reports, and throws when the database left nothing to write.
+void check_entries(const Import& import, const ImportOptions& options, const std::string& name) {
+  if (!options.quiet || import.empty()) import.report(name);
+  if (import.empty()) throw Failure(Status::kDamaged, name + ": no entry is left");
 }
 
 void write_source(std::ostream& out, const std::string& name, Import& import,
@@ -201,21 +216,22 @@ void write_source(std::ostream& out, const std::string& name, Import& import,
 }  // namespace
 
 void import_dictd(const ImportOptions& options) {
-  refuse_inputs_as_output(
-      options.output, {options.base + ".index", options.base + ".dict.dz", options.base + ".dict"});
-  const DictdDatabase database(options.base);
-  const std::string language = settle_language(options, database);
-  const std::string name = std::filesystem::path(options.base).filename().string();
+  const std::string base = base_of(options.base);
+  refuse_inputs_as_output(options.output, {base + ".index", base + ".dict.dz", base + ".dict"});
+  const DictdDatabase database(base);
+  const std::string language = settle_language(options, base, database);
+  const std::string name = std::filesystem::path(base).filename().string();
   Import import(database, language);
   if (options.output == "-") {
     write_source(std::cout, name, import, language);
     if (!std::cout.flush()) throw Failure(Status::kFile, "cannot write to standard output");
+    check_entries(import, options, name);
   } else {
     Delivery output(options.output);
     write_source(output.stream(), name, import, language);
+    check_entries(import, options, name);
     output.deliver();
   }
-  if (!options.quiet) import.report(name);
 }
 
 }  // namespace kzdic

@@ -14,8 +14,8 @@ struct ImportOptions {
   bool quiet = false;
 };
 
-// Reads a dictd database. What does not fit is counted and reported on standard error. Throws
-// Failure.
+// Reads a dictd database; the name of one of its files will do for `base`. What does not fit is
+// counted and reported on standard error. Throws Failure.
 void import_dictd(const ImportOptions& options);
 
 }  // namespace kzdic

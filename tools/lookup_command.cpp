@@ -35,8 +35,9 @@ class Lookup {
     }
     if (options.set.directory.empty()) return;
     set_.emplace(options.set);
-    for (const std::string& path : set_->missing()) {
-      std::cerr << "kzdic: " << path << ": cannot be loaded, left out\n";
+    for (const auto& [path, loaded] : set_->missing()) {
+      std::cerr << "kzdic: " << path << ": cannot be loaded, "
+                << (loaded.empty() ? "left out" : loaded + " is taken for it") << '\n';
     }
     for (CDic* const dictionary : set_->dictionaries()) {
       searchers_.push_back(std::make_unique<Searcher>(dictionary));

@@ -69,16 +69,17 @@ std::optional<std::u32string> plain_letters(char32_t c) {
 }
 
 std::u32string plain_punctuation(std::u32string_view text) {
-  std::u32string result(text);
-  for (char32_t& c : result) {
+  std::u32string result;
+  for (const char32_t c : text) {
     switch (c) {
       case U'’':
       case U'‘':
-      case U'ʼ': c = U'\''; break;
+      case U'ʼ': result += U'\''; break;
       case U'\u2010':
-      case U'\u2011': c = U'-'; break;
-      case U'\u00A0': c = U' '; break;
-      default: break;
+      case U'\u2011': result += U'-'; break;
+      case U'\u00A0': result += U' '; break;
+      case U'…': result += U"..."; break;
+      default: result += c;
     }
   }
   return result;

@@ -19,7 +19,7 @@ std::optional<std::u32string> plain_letters(char32_t c);
 // none. Not for the mixed page.
 std::optional<std::u32string> in_plain_letters(std::u32string_view text, CodePage page);
 
-// The text with the apostrophe, hyphen and blank of the keyboard for those of print.
+// The text with the apostrophe, hyphen, blank and points of the keyboard for those of print.
 std::u32string plain_punctuation(std::u32string_view text);
 
 }  // namespace kzdic

@@ -1,7 +1,7 @@
 // Set of a direction: base dictionaries, or those of a parameter string.
 #include "lexicon/search/dictionary_set.h"
 
-#include <algorithm>
+#include <filesystem>
 #include <sstream>
 #include <string_view>
 #include <utility>
@@ -48,20 +48,30 @@ std::vector<PathList> parse_config(const std::string& config, const std::string&
 
 std::string file_name(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
-bool is_loaded(const std::vector<CDic*>& dictionaries, const std::string& path) {
-  return std::any_of(dictionaries.begin(), dictionaries.end(), [&](CDic* dictionary) {
-    return file_name(DicGetPath(dictionary)) == file_name(path);
-  });
+// Where the dictionary was loaded from, empty if it was not: from the path itself, or from another
+// file of the same name.
+std::string loaded_path(const std::vector<CDic*>& dictionaries, const std::string& path) {
+  std::string other;
+  for (CDic* const dictionary : dictionaries) {
+    const std::string loaded = DicGetPath(dictionary);
+    if (loaded == path) return loaded;
+    if (file_name(loaded) == file_name(path)) other = loaded;
+  }
+  return other;
 }
 
-std::vector<std::string> missing_of(const ZCObArray& array,
-                                    const std::vector<CDic*>& dictionaries) {
-  std::vector<std::string> missing;
+// A file that is not where it should be is also looked for in the set's directory and in the
+// working directory.
+std::vector<MissingDictionary> missing_of(const ZCObArray& array, const std::vector<CDic*>& dictionaries,
+                    const std::string& directory) {
+  std::vector<MissingDictionary> missing;
   for (int i = 0; i < array.GetSize(); ++i) {
     const auto* const descriptor = static_cast<const CDicArray*>(array[i]);
     if (descriptor == nullptr) continue;
-    const std::string path(descriptor->path);
-    if (!is_loaded(dictionaries, path)) missing.push_back(path);
+    std::string path(descriptor->path);
+    if (path == file_name(path)) path = directory + path;
+    const std::string found = loaded_path(dictionaries, path);
+    if (found != path) missing.push_back({path, found});
   }
   return missing;
 }
@@ -80,6 +90,10 @@ DictionarySet::DictionarySet(const SetOptions& options) {
   // The directory is a prefix of file names.
   std::string directory = options.directory;
   if (!directory.ends_with('/')) directory += '/';
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(directory, ignored)) {
+    throw Error(ErrorCode::kFile, directory + ": not a directory");
+  }
   set_.reset(DicSysOpen(0, direction.c_str(), directory.c_str()));
   if (!set_) throw Error(ErrorCode::kFile, "not enough memory for the set");
   if (lists.empty()) {
@@ -91,7 +105,7 @@ DictionarySet::DictionarySet(const SetOptions& options) {
     DicArrayLoad(set_.get(), DicArraySelect(set_.get(), nullptr), 0);
   }
   const std::vector<CDic*> loaded = dictionaries();
-  missing_ = missing_of(*DicArraySelect(set_.get(), nullptr), loaded);
+  missing_ = missing_of(*DicArraySelect(set_.get(), nullptr), loaded, directory);
   if (loaded.empty()) {
     throw Error(ErrorCode::kFile, directory + ": no dictionary of " + direction + " can be loaded");
   }

@@ -16,6 +16,13 @@ struct SetOptions {
   std::string config;  // a parameter string; empty for the base dictionaries
 };
 
+// A dictionary of the set that cannot be loaded from where it should be, and the file of the same
+// name that was loaded for it; empty for none.
+struct MissingDictionary {
+  std::string path;
+  std::string loaded;
+};
+
 class DictionarySet {
  public:
   // Opens the set. Throws Error when no dictionary can be loaded.
@@ -23,15 +30,14 @@ class DictionarySet {
 
   // In the order of a search; they live as long as the set.
   std::vector<CDic*> dictionaries() const;
-  // Paths of those that cannot be loaded.
-  const std::vector<std::string>& missing() const { return missing_; }
+  const std::vector<MissingDictionary>& missing() const { return missing_; }
 
  private:
   struct Close {
     void operator()(CDicSys* set) const { DicSysClose(set); }
   };
   std::unique_ptr<CDicSys, Close> set_;
-  std::vector<std::string> missing_;
+  std::vector<MissingDictionary> missing_;
 };
 
 }  // namespace kz::lexicon

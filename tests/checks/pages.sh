@@ -41,6 +41,7 @@ expect "" kzdic build --title data/base
 expect "docs" kzdic lookup --set doc
 expect "koi8-r" kzdic convert --from cp866 --to = ko
 expect "html" kzdic convert README.md --from = utf-8 --to h
+expect "dictd" kzdic import --from ""
 expect "class change" kzdic grammar name --json c
 expect "" kzdic grammar name class c
 expect "data/ruflex.txt" kzdic inflect --build docs data/ruf

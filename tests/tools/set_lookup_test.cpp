@@ -55,7 +55,8 @@ TEST_F(SetLookupTest, FollowsAParameterStringAndNamesWhatAnswered) {
   EXPECT_EQ(all.out,
             "cat  (./my.dic, as typed)\n  cat, noun\n    кошка\n"
             "cat  (./baseenru.dic, as typed)\n  cat, noun\n    кот\n");
-  EXPECT_THAT(all.err, HasSubstr("none.dic: cannot be loaded"));
+  EXPECT_EQ(all.err, "kzdic: ./none.dic: cannot be loaded, left out\n");
+  EXPECT_EQ(look({"--direction", "FRRU", "--config", config, "cat"}).status, 3);
   EXPECT_EQ(look({"--config", config, "--raw", "--first", "cat", "table"}).out,
             "cat*Nкошка\ntable*Nстол\n");
   EXPECT_EQ(look({"--config", config, "--direction", "RUEN", "--raw", "стол"}).out,
@@ -64,19 +65,22 @@ TEST_F(SetLookupTest, FollowsAParameterStringAndNamesWhatAnswered) {
             "cat*Nкошка\n");
 }
 
+TEST_F(SetLookupTest, TellsWhatIsFoundElsewhereThanInItsDirectory) {
+  const auto look_in = [this](const std::string& directory) {
+    return place.kzdic({"lookup", "--set", directory, "--direction", "ENRU", "--raw", "cat"});
+  };
+  EXPECT_EQ(look_in(place.path("")).err, "");
+  std::filesystem::create_directory(place.path("sub"));
+  const Outcome outside = look_in("sub");
+  EXPECT_EQ(outside.out, "cat*Nкот\n");
+  EXPECT_THAT(outside.err, HasSubstr("sub/baseenru.dic: cannot be loaded, baseenru.dic is taken"));
+}
+
 // The bytes of "äöü" are those of a Russian word in another code page.
 TEST_F(SetLookupTest, AsksEachDictionaryInItsCodePage) {
   build("baseru.dig", "RU", "дць*Nбайты\nдеревня*Nсело\n");
   EXPECT_EQ(look({"--direction", "DERU", "--raw", "ÄÖÜ", "деревня"}).out,
             "äöü*Nзвук\\\\Äöü\nдеревня*Nсело\n");
-}
-
-TEST_F(SetLookupTest, RefusesWhatIsNoSet) {
-  EXPECT_EQ(look({"cat"}).status, 2);
-  EXPECT_EQ(look({"--direction", "ENFR", "cat"}).status, 2);
-  EXPECT_EQ(look({"--config", "-CEN my.dic:0", "cat"}).status, 2);
-  EXPECT_EQ(place.kzdic({"lookup", "--direction", "ENRU", "cat"}).status, 2);
-  EXPECT_EQ(look({"--direction", "FRRU", "--config", "-CENRU my.dic:0", "cat"}).status, 3);
 }
 
 }  // namespace
