@@ -13,9 +13,10 @@
 #include "lexicon/build/sort_order.h"
 #include "lexicon/build/verify.h"
 #include "lexicon/file/delivery.h"
+#include "lexicon/file/outputs.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/source/entry_reader.h"
-#include "lexicon/file/outputs.h"
+#include "tools/input_lines.h"
 #include "tools/refusals.h"
 #include "tools/status.h"
 
@@ -200,7 +201,8 @@ std::size_t count_headwords(const std::vector<Record>& records) {
 
 void build(const BuildOptions& options) {
   refuse_inputs_as_output(options.output, options.sources);
-  const SourceText source = read_source(options.sources, Marked::kDirective, options.properties, &std::cin);
+  const SourceText source =
+      read_source(options.sources, Marked::kDirective, options.properties, &std::cin);
   check_standard_input();
   const Properties& properties = source.properties;
   const std::string language = settle_language(properties.language);

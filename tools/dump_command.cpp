@@ -8,12 +8,12 @@
 #include "kz/dic_index.h"
 #include "kz/dic_iterator.h"
 #include "kz/special.h"
+#include "lexicon/file/outputs.h"
 #include "lexicon/search/file_header.h"
 #include "lexicon/search/open_dictionary.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/source/source_writer.h"
 #include "lexicon/text/code_page.h"
-#include "lexicon/file/outputs.h"
 #include "tools/status.h"
 
 namespace kzdic {

@@ -11,13 +11,13 @@
 #include "kz/charclass.h"
 #include "lexicon/build/sort_order.h"
 #include "lexicon/file/delivery.h"
+#include "lexicon/file/outputs.h"
 #include "lexicon/import/article.h"
 #include "lexicon/import/dictd.h"
 #include "lexicon/source/entry_layout.h"
+#include "lexicon/source/index_headword.h"
 #include "lexicon/text/code_page.h"
-#include "lexicon/file/outputs.h"
-#include "tools/index_headword.h"
-#include "tools/plain_letters.h"
+#include "lexicon/text/plain_letters.h"
 #include "tools/status.h"
 
 namespace kzdic {

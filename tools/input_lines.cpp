@@ -11,11 +11,6 @@
 
 namespace kzdic {
 
-std::size_t byte_order_mark(std::string_view text) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  return text.starts_with(kMark) ? kMark.size() : 0;
-}
-
 void check_standard_input() {
   // The stream takes an error for the end.
   if (std::cin.bad() || std::ferror(stdin) != 0) {

@@ -8,12 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "kzlexicon/code_page.h"
 #include "tools/status.h"
 
 namespace kzdic {
-
-// Length of the byte-order mark at the beginning of a text in UTF-8; 0 without one.
-std::size_t byte_order_mark(std::string_view text);
 
 // Throws Failure when reading standard input did not end at its end.
 void check_standard_input();

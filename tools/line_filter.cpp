@@ -13,8 +13,8 @@
 #include <new>
 #include <nlohmann/json.hpp>
 
-#include "lexicon/text/code_page.h"
 #include "lexicon/file/outputs.h"
+#include "lexicon/text/code_page.h"
 #include "tools/input_lines.h"
 #include "tools/status.h"
 

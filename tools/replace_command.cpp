@@ -11,8 +11,8 @@
 
 #include "kz/dic_error.h"
 #include "kz/replace_buffer.h"
-#include "lexicon/text/russian_text.h"
 #include "lexicon/file/outputs.h"
+#include "lexicon/text/russian_text.h"
 #include "tools/status.h"
 
 namespace kzdic {

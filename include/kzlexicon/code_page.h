@@ -58,6 +58,9 @@ KZL_API std::string code_point(char32_t c);
 KZL_API std::u32string from_utf8(std::string_view text);
 KZL_API std::string to_utf8(std::u32string_view text);
 
+// Length of the byte-order mark at the beginning of a text in UTF-8; 0 without one.
+KZL_API std::size_t byte_order_mark(std::string_view text);
+
 // The bytes of a text in a code page. Throws BadUtf8 and Unmappable, the latter also for a zero. In
 // the mixed page it also refuses a word that would read differently after decoding, such as a
 // German word without any plain Latin letter.

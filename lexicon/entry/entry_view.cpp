@@ -7,9 +7,9 @@
 
 #include "kz/entry.h"
 #include "lexicon/entry/entry_blocks.h"
+#include "lexicon/entry/entry_marks.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
-#include "tools/entry_marks.h"
 
 namespace kz::lexicon {
 namespace {

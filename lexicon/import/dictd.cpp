@@ -14,7 +14,7 @@
 #include <utility>
 
 #include "kzlexicon/error.h"
-#include "tools/input_lines.h"
+#include "lexicon/text/code_page.h"
 
 namespace kz::lexicon {
 namespace {

@@ -62,8 +62,9 @@ std::string loaded_path(const std::vector<CDic*>& dictionaries, const std::strin
 
 // A file that is not where it should be is also looked for in the set's directory and in the
 // working directory.
-std::vector<MissingDictionary> missing_of(const ZCObArray& array, const std::vector<CDic*>& dictionaries,
-                    const std::string& directory) {
+std::vector<MissingDictionary> missing_of(const ZCObArray& array,
+                                          const std::vector<CDic*>& dictionaries,
+                                          const std::string& directory) {
   std::vector<MissingDictionary> missing;
   for (int i = 0; i < array.GetSize(); ++i) {
     const auto* const descriptor = static_cast<const CDicArray*>(array[i]);

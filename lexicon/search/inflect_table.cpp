@@ -78,7 +78,7 @@ std::string fault_of(const std::vector<std::string>& attributes) {
 
 // Windows-1251 lines of a text in UTF-8, all of which the library understands.
 std::string encode_text(const std::string& path, std::istream* standard_input) {
-  const SourceText source = read_source({path}, Marked::kComment, standard_input);
+  const SourceText source = read_source({path}, Marked::kComment, {}, standard_input);
   std::map<std::string, std::size_t> seen;
   std::string bytes;
   for (const SourceLine& line : source.lines) {

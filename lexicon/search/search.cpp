@@ -10,9 +10,9 @@
 #include "lexicon/search/headword_forms.h"
 #include "lexicon/search/inflect_table.h"
 #include "lexicon/source/entry_layout.h"
+#include "lexicon/source/index_headword.h"
 #include "lexicon/text/code_page.h"
-#include "tools/index_headword.h"
-#include "tools/plain_letters.h"
+#include "lexicon/text/plain_letters.h"
 
 namespace kz::lexicon {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
-#include "tools/plain_letters.h"
+#include "lexicon/text/plain_letters.h"
 
 namespace kz::lexicon {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "kzlexicon/error.h"
 #include "lexicon/source/entry_layout.h"
+#include "lexicon/source/index_headword.h"
 #include "lexicon/text/code_page.h"
-#include "tools/index_headword.h"
 
 namespace kz::lexicon {
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "kzlexicon/error.h"
-#include "tools/input_lines.h"
+#include "lexicon/text/code_page.h"
 
 namespace kz::lexicon {
 namespace {

@@ -44,11 +44,10 @@ struct SourceText {
 // What a line that begins with "*:" is.
 enum class Marked { kDirective, kComment };
 
-// Reads the files in order; "-" is `standard_input`, if given. Files may repeat a directive but not contradict
-// one another; directives on what options state are passed over. Throws Error.
+// Reads the files in order; "-" is `standard_input`, if given. Files may repeat a directive but not
+// contradict one another; directives on what options state are passed over. Throws Error.
 SourceText read_source(const std::vector<std::string>& paths, Marked marked = Marked::kDirective,
-                       const Properties& options = {},
-                       std::istream* standard_input = nullptr);
+                       const Properties& options = {}, std::istream* standard_input = nullptr);
 
 }  // namespace kz::lexicon
 

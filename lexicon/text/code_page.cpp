@@ -209,6 +209,11 @@ bool can_encode(char32_t character, CodePage page) {
   return table_of(page).byte_of(character) != 0;
 }
 
+std::size_t byte_order_mark(std::string_view text) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  return text.starts_with(kMark) ? kMark.size() : 0;
+}
+
 std::string encode_utf8(std::string_view text, CodePage page) {
   return encode(from_utf8(text), page);
 }

@@ -81,7 +81,7 @@ TEST_F(StatusTest, IsThatOfTheCause) {
       {{"lookup", "none.dic", "cat"}, 3, "none.dic"},
       {{"lookup", "--set", "none", "--direction", "ENRU", "cat"}, 3, "none/: not a directory"},
       {{"lookup", "--set", ".", "--direction", "ENRU", "cat"}, 3, "no dictionary of ENRU"},
-      {{"import", "--from", "dictd", "none", "-o", "o.dic"}, 3, "none.dict"},
+      {{"import", "--from", "dictd", "none", "-o", "o.dic"}, 3, "none.index"},
       {{"info", "none.dic"}, 3, "none.dic"},
       {{"info", "s.txt"}, 4, "s.txt: offset 0"},
       {{"lookup", "s.txt", "cat"}, 4, "s.txt"},

@@ -1,15 +1,15 @@
 // Headwords for words that the index cannot hold at their beginning.
-#ifndef KZ_TOOLS_INDEX_HEADWORD_H
-#define KZ_TOOLS_INDEX_HEADWORD_H
+#ifndef KZ_LEXICON_INDEX_HEADWORD_H
+#define KZ_LEXICON_INDEX_HEADWORD_H
 
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "kzlexicon/error.h"
 #include "lexicon/build/sort_order.h"
-#include "tools/status.h"
 
-namespace kzdic {
+namespace kz::lexicon {
 
 // What becomes of the letters of another alphabet.
 enum class ForeignLetters { kDropped, kTransliterated };
@@ -21,6 +21,6 @@ enum class ForeignLetters { kDropped, kTransliterated };
 std::optional<std::string> index_headword(std::string_view word, const SortOrder& order,
                                           ForeignLetters foreign);
 
-}  // namespace kzdic
+}  // namespace kz::lexicon
 
-#endif  // KZ_TOOLS_INDEX_HEADWORD_H
+#endif  // KZ_LEXICON_INDEX_HEADWORD_H

@@ -1,5 +1,5 @@
 // Words by what an index holds of them.
-#include "tools/index_headword.h"
+#include "lexicon/source/index_headword.h"
 
 #include <algorithm>
 #include <array>
@@ -7,12 +7,12 @@
 #include "kz/charclass.h"
 #include "kz/dic_index.h"
 #include "kz/translit.h"
+#include "kzlexicon/error.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
-#include "tools/plain_letters.h"
-#include "tools/status.h"
+#include "lexicon/text/plain_letters.h"
 
-namespace kzdic {
+namespace kz::lexicon {
 namespace {
 
 // What the index can hold for a character, perhaps nothing.
@@ -47,4 +47,4 @@ std::optional<std::string> index_headword(std::string_view word, const SortOrder
   return headword;
 }
 
-}  // namespace kzdic
+}  // namespace kz::lexicon

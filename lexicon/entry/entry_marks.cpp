@@ -1,12 +1,12 @@
 // One walk over a body, group by group.
-#include "tools/entry_marks.h"
+#include "lexicon/entry/entry_marks.h"
 
 #include <algorithm>
 #include <utility>
 
 #include "kz/charclass.h"
 
-namespace kzdic {
+namespace kz::lexicon {
 namespace {
 
 bool is_latin(char c) { return _isalpha(c) != 0; }
@@ -112,4 +112,4 @@ std::string marked_body(std::string_view body, char part_code, std::string_view 
   return Marker(body, part_code, language).mark();
 }
 
-}  // namespace kzdic
+}  // namespace kz::lexicon

@@ -1,11 +1,11 @@
 // Tables of plain letters by Unicode block.
-#include "tools/plain_letters.h"
+#include "lexicon/text/plain_letters.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-namespace kzdic {
+namespace kz::lexicon {
 namespace {
 
 // The base letters of a run of characters; '?' for one without.
@@ -99,4 +99,4 @@ std::optional<std::u32string> in_plain_letters(std::u32string_view text, CodePag
   return result;
 }
 
-}  // namespace kzdic
+}  // namespace kz::lexicon

@@ -2,13 +2,13 @@
 //
 // The spaced form parts parentheses from the words that they belong to, and takes the letters of
 // another alphabet for codes, those of a reference too.
-#ifndef KZ_TOOLS_ENTRY_MARKS_H
-#define KZ_TOOLS_ENTRY_MARKS_H
+#ifndef KZ_LEXICON_ENTRY_MARKS_H
+#define KZ_LEXICON_ENTRY_MARKS_H
 
 #include <string>
 #include <string_view>
 
-namespace kzdic {
+namespace kz::lexicon {
 
 // Stands where the spaced form adds a blank that the entry does not have. No entry holds it.
 inline constexpr char kJoin = '\x01';
@@ -18,6 +18,6 @@ inline constexpr char kJoin = '\x01';
 // dictionary's code pages.
 std::string marked_body(std::string_view body, char part_code, std::string_view language);
 
-}  // namespace kzdic
+}  // namespace kz::lexicon
 
-#endif  // KZ_TOOLS_ENTRY_MARKS_H
+#endif  // KZ_LEXICON_ENTRY_MARKS_H

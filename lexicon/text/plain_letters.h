@@ -1,15 +1,15 @@
 // Characters written with those that a code page has.
-#ifndef KZ_TOOLS_PLAIN_LETTERS_H
-#define KZ_TOOLS_PLAIN_LETTERS_H
+#ifndef KZ_LEXICON_PLAIN_LETTERS_H
+#define KZ_LEXICON_PLAIN_LETTERS_H
 
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "kzlexicon/error.h"
 #include "lexicon/text/code_page.h"
-#include "tools/status.h"
 
-namespace kzdic {
+namespace kz::lexicon {
 
 // Latin letters without their accents, ligatures as two letters, Greek letters by their names, and
 // nothing for an accent that is a character of its own. No value for any other character.
@@ -22,6 +22,6 @@ std::optional<std::u32string> in_plain_letters(std::u32string_view text, CodePag
 // The text with the apostrophe, hyphen, blank and points of the keyboard for those of print.
 std::u32string plain_punctuation(std::u32string_view text);
 
-}  // namespace kzdic
+}  // namespace kz::lexicon
 
-#endif  // KZ_TOOLS_PLAIN_LETTERS_H
+#endif  // KZ_LEXICON_PLAIN_LETTERS_H
