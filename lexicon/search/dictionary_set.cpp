@@ -53,9 +53,9 @@ std::string file_name(const std::string& path) { return path.substr(path.find_la
 std::string loaded_path(const std::vector<CDic*>& dictionaries, const std::string& path) {
   std::string other;
   for (CDic* const dictionary : dictionaries) {
-    const std::string loaded = DicGetPath(dictionary);
+    std::string loaded = DicGetPath(dictionary);
     if (loaded == path) return loaded;
-    if (file_name(loaded) == file_name(path)) other = loaded;
+    if (file_name(loaded) == file_name(path)) other = std::move(loaded);
   }
   return other;
 }
@@ -70,7 +70,7 @@ std::vector<MissingDictionary> missing_of(const ZCObArray& array,
     const auto* const descriptor = static_cast<const CDicArray*>(array[i]);
     if (descriptor == nullptr) continue;
     std::string path(descriptor->path);
-    if (path == file_name(path)) path = directory + path;
+    if (path == file_name(path)) path.insert(0, directory);
     const std::string found = loaded_path(dictionaries, path);
     if (found != path) missing.push_back({path, found});
   }
