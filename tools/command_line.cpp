@@ -24,7 +24,10 @@ std::vector<std::string> arguments_of(int argc, char** argv) {
       words = true;
       continue;
     }
-    if (words && argument.size() > 1 && argument[0] == '-') argument.insert(0, 1, kWordMark);
+    // "++" would end the command.
+    const bool word = argument == "++" || argument.starts_with(kWordMark) ||
+                      (words && argument.size() > 1 && argument[0] == '-');
+    if (word) argument.insert(0, 1, kWordMark);
     arguments.push_back(std::move(argument));
   }
   std::reverse(arguments.begin(), arguments.end());

@@ -18,6 +18,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 std::string base64(std::size_t value) {
   const char* digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
@@ -32,7 +33,8 @@ struct Database {
     text += article;
   }
   void write(const Workplace& place, bool compressed) const {
-    place.write("db.index", index);
+    // With a byte-order mark, which belongs to no headword.
+    place.write("db.index", "\xEF\xBB\xBF" + index);
     if (!compressed) return place.write("db.dict", text);
     gzFile file = gzopen(place.path("db.dict.dz").c_str(), "wb");
     gzwrite(file, text.data(), static_cast<unsigned>(text.size()));
@@ -71,6 +73,7 @@ TEST(Import, WritesSourceThatBuildsAndFindsItsWords) {
                           "abandon*Nкниж. развязность\n"
                           "abandon*W={leave I}\n"
                           "Haus*N[N|]1.{ein Gebaeude; Familie}дом;здание/2.палата\n"));
+    EXPECT_THAT(place.read("s.txt"), Not(HasSubstr("sample")));
     ASSERT_EQ(place.kzdic({"build", "s.txt", "-o", "o.dic"}).status, 0);
     EXPECT_THAT(place.kzdic({"lookup", "o.dic", "abandon"}).out,
                 HasSubstr("2. отказываться; to abandon smth. (или it) бросать в 1945. году\n"));

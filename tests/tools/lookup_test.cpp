@@ -103,16 +103,17 @@ TEST_F(LookupTest, TakesDictionariesAndWordsAsTheyAreGiven) {
                                                        {"-d", "en.dic", "de.dic", "Tee"},
                                                        {"en.dic", "--", "-5", "Tee"},
                                                        {"--", "en.dic", "de.dic", "--raw"},
-                                                       {"de.dic", "Tee", "--", "--", "-d"}};
+                                                       {"de.dic", "Tee", "--", "--", "-d", "++"}};
   std::vector<std::string> answers;
   for (std::vector<std::string> line : lines) {
     line.insert(line.begin(), {"lookup", "--raw"});
     const Outcome outcome = place.kzdic(line);
     answers.push_back(outcome.out + outcome.err);
   }
-  EXPECT_THAT(answers, ElementsAre("tee*Nчай\\\\Tee\n", "de.dic: not found\nTee: not found\n",
-                                   "-5: not found\nTee: not found\n", "--raw: not found\n",
-                                   "tee*Nчай\\\\Tee\n--: not found\n-d: not found\n"));
+  EXPECT_THAT(answers,
+              ElementsAre("tee*Nчай\\\\Tee\n", "de.dic: not found\nTee: not found\n",
+                          "-5: not found\nTee: not found\n", "--raw: not found\n",
+                          "tee*Nчай\\\\Tee\n--: not found\n-d: not found\n++: not found\n"));
 }
 
 TEST_F(LookupTest, ShowsReferencesAndParenthesesAsTheyStand) {
