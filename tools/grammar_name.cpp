@@ -3,7 +3,9 @@
 #include <array>
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <utility>
 
+#include "kzlexicon/code_page.h"
 #include "kzlexicon/grammar.h"
 #include "tools/grammar_command.h"
 #include "tools/grammar_lines.h"
@@ -41,16 +43,26 @@ void print_object(const AttributeName& attribute) {
   print_json(object);
 }
 
+// Why a name has no index.
+std::pair<Status, std::string> reason_of(const std::string& name) {
+  try {
+    from_utf8(name);
+    return {Status::kNotFound, "not found"};
+  } catch (const BadUtf8& bad) {
+    return {Status::kDamaged, "byte " + std::to_string(bad.offset + 1) + ' ' + bad.what()};
+  }
+}
+
 Status name_one(int kind, const std::string& text, bool json, bool line) {
   const AttributeName attribute = find_attribute(kind, text);
   if (attribute.index < 0) {
-    const std::string message = "not found";
+    const auto [status, message] = reason_of(text);
     if (json) {
       print_json({{"kind", kind}, {"query", text}, {"error", message}});
     } else {
       (line ? std::cout : std::cerr) << text << ": " << message << '\n';
     }
-    return Status::kNotFound;
+    return status;
   }
   if (json) {
     print_object(attribute);

@@ -87,6 +87,7 @@ TEST_F(StatusTest, IsThatOfTheCause) {
       {{"lookup", "s.txt", "cat"}, 4, "s.txt"},
       {{"lookup", "en.dic", "cat", "c\xFF"}, 4, "byte 2 is not UTF-8"},
       {{"grammar", "decode", "N", "\xFF"}, 4, "not UTF-8"},
+      {{"grammar", "name", "0", "\xFF"}, 4, "byte 1 is not UTF-8"},
       {{"dump", "en.dic", "--from", "\xFF"}, 4, "not UTF-8"},
       {{"import", "--from", "dictd", "db", "-o", "o.dic", "--language", "ENRU"}, 4, "no entry"},
       {{"import", "--from", "dictd", "bad", "-o", "o.dic", "--language", "ENRU"}, 4, "offset 2"},
