@@ -41,24 +41,27 @@ void add_build(CLI::App& app) {
       ->type_name("TEXT");
   add_property(*command, "--label", properties.label, "Label, at most 8 characters")
       ->type_name("TEXT");
-  command->add_option("--password", options.password, "Password, at most 8 characters");
-  CLI::Option* packed = command->add_flag("--packed", options.packed, "Front-coded records");
+  command->add_option("--password", options.form.password, "Password, at most 8 characters");
+  CLI::Option* packed = command->add_flag("--packed", options.form.packed, "Front-coded records");
   command
       ->add_flag_callback(
           "--plain", [] {}, "Records as they stand (the default)")
       ->excludes(packed);
-  CLI::Option* shared =
-      command->add_flag("--shared", options.shared,
-                        "Equal bodies stand once, in a shared-text block (default when packed)");
-  command->add_flag("--no-shared", options.no_shared, "No shared-text block")->excludes(shared);
-  command->add_option("--depth", options.depth, "Depth of the letter index (default: by size)")
+  CLI::Option* shared = command->add_flag_callback(
+      "--shared", [&options] { options.form.shared = true; },
+      "Equal bodies stand once, in a shared-text block (default when packed)");
+  command
+      ->add_flag_callback(
+          "--no-shared", [&options] { options.form.shared = false; }, "No shared-text block")
+      ->excludes(shared);
+  command->add_option("--depth", options.form.depth, "Depth of the letter index (default: by size)")
       ->type_name("N")
       ->check(CLI::IsMember({2, 3, 5}));
-  command->add_flag("--skip-bad", options.skip_bad,
+  command->add_flag("--skip-bad", options.form.skip_bad,
                     "Leave out and count entries that the format cannot hold");
-  command->add_flag("--fold-yo", options.fold_yo, "Write the letter ё of headwords as е");
+  command->add_flag("--fold-yo", options.form.fold_yo, "Write the letter ё of headwords as е");
   command
-      ->add_option("--timestamp", options.time_stamp,
+      ->add_option("--timestamp", options.form.time_stamp,
                    "Time in the header, in seconds since 1970 (default: 0)")
       ->type_name("SECONDS")
       ->check(whole_number())
@@ -86,7 +89,7 @@ void add_import(CLI::App& app) {
       ->type_name("{ENRU,RUEN,DERU,RUDE,FRRU,RUFR}")
       ->check(one_of({"ENRU", "RUEN", "DERU", "RUDE", "FRRU", "RUFR"}));
   command->add_flag("-q,--quiet", options.quiet, "No summary");
-  command->callback([stored] { import_dictd(*stored); });
+  command->callback([stored] { import_database(*stored); });
 }
 
 void add_dump(CLI::App& app) {
@@ -94,18 +97,20 @@ void add_dump(CLI::App& app) {
   DumpOptions& options = *stored;
   CLI::App* command = app.add_subcommand("dump", "Print a dictionary as source text");
   command->add_option("FILE", options.dictionary, "The dictionary")->type_name("FILE")->required();
-  command->add_option("--from", options.from, "First letter of the first entries")
+  command->add_option("--from", options.range.first, "First letter of the first entries")
       ->type_name("LETTER");
-  command->add_option("--to", options.to, "First letter of the last entries")->type_name("LETTER");
-  CLI::Option* code =
-      command->add_option("--code", options.codes, "Only entries with one of these part codes")
-          ->type_name("LETTERS");
+  command->add_option("--to", options.range.last, "First letter of the last entries")
+      ->type_name("LETTER");
+  CLI::Option* code = command
+                          ->add_option("--code", options.range.part_codes,
+                                       "Only entries with one of these part codes")
+                          ->type_name("LETTERS");
   command
       ->add_option_function<std::string>(
           "--not-code",
           [&options](const std::string& codes) {
-            options.codes = codes;
-            options.not_codes = true;
+            options.range.part_codes = codes;
+            options.range.other_codes = true;
           },
           "Only entries with none of these part codes")
       ->type_name("LETTERS")

@@ -4,14 +4,14 @@
 
 #include <string>
 
+#include "kzlexicon/dictionary.h"
+#include "tools/status.h"
+
 namespace kzdic {
 
 struct DumpOptions {
   std::string dictionary;
-  std::string from;  // the range of first letters: words of which the first letter counts,
-  std::string to;    // empty for no bound
-  std::string codes;
-  bool not_codes = false;  // the records without these part codes instead of those with them
+  WalkRange range;
 };
 
 // Writes the directives and the entries, in the order of the dictionary, to standard output. Built

@@ -6,27 +6,11 @@
 #include <string_view>
 
 #include "kzlexicon/entry.h"
-#include "lexicon/entry/record_view.h"
-#include "lexicon/source/entry_layout.h"
-#include "lexicon/text/code_page.h"
 #include "tools/grammar_output.h"
 #include "tools/status.h"
 
 namespace kzdic {
 namespace {
-
-std::string step_name(const Found& found) {
-  switch (found.step) {
-    case Step::kTyped: return "as typed";
-    case Step::kLowerCase: return "in lower case";
-    case Step::kFolded: return "with е for ё";
-    case Step::kPlain: return "in plain characters";
-    case Step::kInflected:
-      return found.ending.empty() ? "as a form without ending" : "by its ending " + found.ending;
-    case Step::kNone: break;
-  }
-  return {};
-}
 
 std::string join(const std::vector<std::string>& texts, std::string_view separator) {
   std::string result;
@@ -43,9 +27,9 @@ class TextPrinter : public Printer {
   TextPrinter(bool grammar, std::ostream& out) : grammar_(grammar), out_(out) {}
 
   void print(const std::string& word, const std::vector<Found>& found, bool line) override {
-    for (const Found& answer : found) {
-      out_ << word << "  (" << answer.path << ", " << step_name(answer) << ")\n";
-      for (const std::string& entry : answer.entries) print_entry(entry, answer.language);
+    for (const Found& one : found) {
+      out_ << word << "  (" << one.path << ", " << describe_step(one.answer) << ")\n";
+      for (const Entry& entry : one.answer.entries) print_entry(entry.view());
     }
     if (found.empty()) (line ? out_ : std::cerr) << word << ": not found\n";
     if (line) out_ << '\n';
@@ -56,18 +40,17 @@ class TextPrinter : public Printer {
   }
 
  private:
-  void print_entry(const std::string& text, const std::string& language) {
-    const EntryView entry = view_record(text, language);
+  void print_entry(const EntryView& entry) {
     out_ << "  " << entry.spelling;
     if (!entry.part_code.empty()) {
       out_ << ", " << (entry.part_of_speech.empty() ? entry.part_code : entry.part_of_speech);
     }
     if (!entry.attribute.empty()) out_ << " [" << entry.attribute << ']';
     out_ << '\n';
-    if (grammar_) print_grammar("    ", entry_grammar(entry), language);
+    if (grammar_) print_grammar("    ", entry_grammar(entry), entry.language);
     for (const MeaningView& meaning : entry.meanings) {
       print_meaning(meaning);
-      if (grammar_) print_grammar("       ", meaning_grammar(entry, meaning), language);
+      if (grammar_) print_grammar("       ", meaning_grammar(entry, meaning), entry.language);
     }
     if (!entry.reference.empty()) out_ << "    (" << entry.reference << ")\n";
   }
@@ -101,10 +84,8 @@ class RawPrinter : public Printer {
   explicit RawPrinter(std::ostream& out) : out_(out) {}
 
   void print(const std::string& word, const std::vector<Found>& found, bool line) override {
-    for (const Found& answer : found) {
-      for (const std::string& entry : answer.entries) {
-        out_ << decode_entry(entry, answer.language) << '\n';
-      }
+    for (const Found& one : found) {
+      for (const Entry& entry : one.answer.entries) out_ << entry.text() << '\n';
     }
     if (line) {
       out_ << '\n';
@@ -129,9 +110,10 @@ class JsonPrinter : public Printer {
 
   void print(const std::string& word, const std::vector<Found>& found, bool) override {
     Json answer = {{"query", word}, {"found", !found.empty()}, {"entries", Json::array()}};
-    for (const Found& dictionary : found) {
-      for (const std::string& entry : dictionary.entries) {
-        answer["entries"].push_back(entry_object(entry, dictionary));
+    for (const Found& one : found) {
+      const std::string step = describe_step(one.answer);
+      for (const Entry& entry : one.answer.entries) {
+        answer["entries"].push_back(entry_object(entry.view(), one.path, step));
       }
     }
     write(answer);
@@ -148,8 +130,8 @@ class JsonPrinter : public Printer {
     out_ << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
   }
 
-  Json entry_object(const std::string& text, const Found& dictionary) const {
-    const EntryView entry = view_record(text, dictionary.language);
+  Json entry_object(const EntryView& entry, const std::string& path,
+                    const std::string& step) const {
     Json meanings = Json::array();
     for (const MeaningView& meaning : entry.meanings) {
       meanings.push_back({{"number", meaning.number},
@@ -158,11 +140,11 @@ class JsonPrinter : public Printer {
                           {"synonyms", meaning.synonyms}});
       if (grammar_) meanings.back()["grammar"] = grammar_json(meaning_grammar(entry, meaning));
     }
-    Json object = {{"dictionary", dictionary.path}, {"step", step_name(dictionary)},
-                   {"headword", entry.headword},    {"spelling", entry.spelling},
-                   {"part_code", entry.part_code},  {"part_of_speech", entry.part_of_speech},
-                   {"attribute", entry.attribute},  {"meanings", meanings},
-                   {"reference", entry.reference},  {"entry", entry.text}};
+    Json object = {{"dictionary", path},           {"step", step},
+                   {"headword", entry.headword},   {"spelling", entry.spelling},
+                   {"part_code", entry.part_code}, {"part_of_speech", entry.part_of_speech},
+                   {"attribute", entry.attribute}, {"meanings", meanings},
+                   {"reference", entry.reference}, {"entry", entry.text}};
     if (grammar_) object["grammar"] = grammar_json(entry_grammar(entry));
     return object;
   }

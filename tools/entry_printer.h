@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "lexicon/search/search.h"
+#include "kzlexicon/dictionary.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -16,9 +16,7 @@ namespace kzdic {
 struct Found {
   std::string path;
   std::string language;
-  Step step = Step::kNone;
-  std::vector<std::string> entries;
-  std::string ending;  // of an inflected form
+  Answer answer;
 };
 
 class Printer {

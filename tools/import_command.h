@@ -16,7 +16,7 @@ struct ImportOptions {
 
 // Reads a dictd database; the name of one of its files will do for `base`. What does not fit is
 // counted and reported on standard error. Throws Failure.
-void import_dictd(const ImportOptions& options);
+void import_database(const ImportOptions& options);
 
 }  // namespace kzdic
 

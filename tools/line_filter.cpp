@@ -13,7 +13,7 @@
 #include <new>
 #include <nlohmann/json.hpp>
 
-#include "lexicon/file/outputs.h"
+#include "kzlexicon/output.h"
 #include "lexicon/text/code_page.h"
 #include "tools/input_lines.h"
 #include "tools/status.h"

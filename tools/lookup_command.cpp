@@ -8,8 +8,8 @@
 #include <memory>
 #include <optional>
 
-#include "lexicon/search/inflect_table.h"
-#include "lexicon/search/search.h"
+#include "kzlexicon/dictionary.h"
+#include "kzlexicon/inflector.h"
 #include "tools/entry_printer.h"
 #include "tools/input_lines.h"
 #include "tools/status.h"
@@ -29,29 +29,20 @@ class Lookup {
   explicit Lookup(const LookupOptions& options)
       : options_(options),
         printer_(make_printer(options.raw, options.json, options.grammar, std::cout)) {
-    if (!options.inflected.empty()) table_ = load_table(options.inflected);
-    for (const std::string& path : options.dictionaries) {
-      searchers_.push_back(std::make_unique<Searcher>(path));
-    }
-    if (options.set.directory.empty()) return;
-    set_.emplace(options.set);
-    for (const auto& [path, loaded] : set_->missing()) {
-      std::cerr << "kzdic: " << path << ": cannot be loaded, "
-                << (loaded.empty() ? "left out" : loaded + " is taken for it") << '\n';
-    }
-    for (CDic* const dictionary : set_->dictionaries()) {
-      searchers_.push_back(std::make_unique<Searcher>(dictionary));
-    }
+    if (!options.inflected.empty()) table_.emplace(options.inflected);
+    for (const std::string& path : options.dictionaries) opened_.emplace_back(path);
+    for (Dictionary& dictionary : opened_) dictionaries_.push_back(&dictionary);
+    if (!options.set.directory.empty()) open_set();
   }
 
-  // Answers one word; `line` tells that it is a line of standard input.
+  // Answers one word; `line` means that it is a line of standard input.
   void answer(const std::string& word, bool line) {
     std::vector<Found> found;
-    for (const auto& searcher : searchers_) {
-      Answer answer = searcher->find({word, options_.prefix, options_.next});
-      if (answer.step == Step::kNone) continue;
-      found.push_back(
-          {searcher->path(), searcher->language(), answer.step, std::move(answer.entries), {}});
+    for (Dictionary* const dictionary : dictionaries_) {
+      Answer answer =
+          options_.prefix ? dictionary->find_prefix(word) : dictionary->find(word, options_.next);
+      if (!answer) continue;
+      found.push_back({dictionary->path(), dictionary->language(), std::move(answer)});
       if (options_.first) break;
     }
     if (found.empty() && table_) found = inflected(word);
@@ -69,12 +60,23 @@ class Lookup {
   bool all_found() const { return all_found_; }
 
  private:
+  void open_set() {
+    if (options_.set.direction.empty() && options_.set.config.empty()) {
+      throw Failure(Status::kUsage, "no direction: use --direction ENRU");
+    }
+    set_.emplace(options_.set);
+    for (const auto& [path, loaded] : set_->missing()) {
+      std::cerr << "kzdic: " << path << ": cannot be loaded, "
+                << (loaded.empty() ? "left out" : loaded + " is taken for it") << '\n';
+    }
+    for (Dictionary& dictionary : set_->dictionaries()) dictionaries_.push_back(&dictionary);
+  }
+
   std::vector<Found> inflected(const std::string& word) {
     std::vector<Found> found;
-    for (const auto& searcher : searchers_) {
-      for (Answer& answer : searcher->find_inflected(word, *table_)) {
-        found.push_back({searcher->path(), searcher->language(), answer.step,
-                         std::move(answer.entries), std::move(answer.ending)});
+    for (Dictionary* const dictionary : dictionaries_) {
+      for (Answer& answer : dictionary->find_inflected(word, *table_)) {
+        found.push_back({dictionary->path(), dictionary->language(), std::move(answer)});
       }
       if (options_.first && !found.empty()) break;
     }
@@ -84,8 +86,9 @@ class Lookup {
   const LookupOptions& options_;
   std::unique_ptr<Printer> printer_;
   std::optional<DictionarySet> set_;
-  std::unique_ptr<CGrSrcWordFlex> table_;
-  std::vector<std::unique_ptr<Searcher>> searchers_;
+  std::optional<Inflector> table_;
+  std::vector<Dictionary> opened_;
+  std::vector<Dictionary*> dictionaries_;  // in the order of the search
   bool all_found_ = true;
 };
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "lexicon/search/dictionary_set.h"
+#include "kzlexicon/dictionary_set.h"
 #include "tools/status.h"
 
 namespace kzdic {

@@ -6,6 +6,7 @@
 #include <new>
 
 #include "tools/command_line.h"
+#include "tools/signals.h"
 #include "tools/status.h"
 
 namespace {
@@ -24,6 +25,7 @@ bool open_standard_descriptors() {
 
 int main(int argc, char** argv) {
   if (!open_standard_descriptors()) return static_cast<int>(kzdic::Status::kFile);
+  kzdic::watch_signals();
   try {
     return kzdic::run_command_line(argc, argv, "kzdic " KZ_VERSION);
   } catch (const kz::lexicon::Error& error) {

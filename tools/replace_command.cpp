@@ -11,7 +11,7 @@
 
 #include "kz/dic_error.h"
 #include "kz/replace_buffer.h"
-#include "lexicon/file/outputs.h"
+#include "kzlexicon/output.h"
 #include "lexicon/text/russian_text.h"
 #include "tools/status.h"
 

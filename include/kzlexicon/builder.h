@@ -38,6 +38,13 @@ struct BuildOptions {
   bool fold_yo = false;          // write the letter ё of headwords as е
 };
 
+// The options with the properties that directives state. Throws Error, with the place of the
+// directive, for properties that no dictionary has.
+KZL_API BuildOptions with_properties(BuildOptions options, const Properties& properties);
+
+// The type letter for the extension of a file name, "S" for ".dis"; empty for other extensions.
+KZL_API std::string type_of_file_name(const std::string& path);
+
 // One thing to say about one entry.
 struct Diagnostic {
   enum class Severity { kNote, kWarning, kError };
@@ -72,8 +79,8 @@ class KZL_API Builder {
   // Entries are checked as they are added. One that the format cannot hold becomes a diagnostic;
   // unless such entries are to be skipped, write and to_memory then throw.
   Builder& add(const PlainEntry& entry);
-  Builder& add_line(std::string_view line, Place place = {});
-  // Entries of source text. Its directives must agree with the options.
+  Builder& add_line(std::string_view line, const Place& place = {});
+  // Entries of source text; its properties are left to with_properties.
   Builder& add_source(const SourceText& source);
 
   // Sorts, writes and proves the dictionary: every entry has to come back. The file appears under

@@ -82,12 +82,10 @@ enum class Step {
   kNone,
   kTyped,
   kLowerCase,  // lower-cased by the dictionary's language
-  kYoFolded,   // lower-cased, and the Russian letter ё written as е
+  kFolded,     // lower-cased, and the Russian letter ё written as е
+  kPlain,      // in plain letters or punctuation that the dictionary has for others
   kInflected,  // the headword of an inflected form
 };
-
-// "as typed", "in lower case", ...
-KZL_API std::string_view name_of(Step step);
 
 struct Answer {
   Step step = Step::kNone;  // how the entries were found; kNone when there are none
@@ -95,6 +93,17 @@ struct Answer {
   std::string ending;  // "-ами (NF 1)": how an inflected form was understood
 
   explicit operator bool() const { return step != Step::kNone; }
+};
+
+// "as typed", "in lower case", "by its ending -ами (NF 1)"
+KZL_API std::string describe_step(const Answer& answer);
+
+// The part of a dictionary that a walk covers; empty texts set no bound.
+struct WalkRange {
+  std::string first{};       // the first letter of the first headwords
+  std::string last{};        // the first letter of the last headwords
+  std::string part_codes{};  // only entries with one of these part codes,
+  bool other_codes = false;  // or only entries with none of them
 };
 
 class KZL_API Dictionary {
@@ -122,15 +131,13 @@ class KZL_API Dictionary {
   // dictionaries from Russian have any.
   std::vector<Answer> find_inflected(std::string_view word, const Inflector& inflector);
 
-  // All entries in the order of the file, or those whose headwords begin with one of the letters
-  // `first` to `last`, as a range:
+  // The entries of a range, in the order of the file:
   //
   //   for (const Entry& entry : dictionary.entries()) ...
   //
-  // A walk has a place of its own; searches do not disturb it. It outlives the dictionary.
+  // A walk has a place of its own; searches do not disturb it, and it may outlive the dictionary.
   class Walk;
-  Walk entries() const;
-  Walk entries(std::string_view first, std::string_view last) const;
+  Walk entries(const WalkRange& range = {}) const;
 
  private:
   friend class DictionarySet;

@@ -19,6 +19,13 @@
 
 namespace kz::lexicon {
 
+// A dictionary of a set that cannot be loaded from where it should be, and the file of the same
+// name that was loaded for it; empty for none.
+struct MissingDictionary {
+  std::string path;
+  std::string loaded;
+};
+
 struct SetOptions {
   std::string directory;  // where the base dictionaries and relative paths are
   std::string direction;  // "ENRU"; may be empty when `config` names one
@@ -35,8 +42,7 @@ class KZL_API DictionarySet {
 
   // In the order of a search; they live as long as the set.
   std::span<Dictionary> dictionaries();
-  // Paths of dictionaries that belong to the set but cannot be loaded.
-  const std::vector<std::string>& missing() const;
+  const std::vector<MissingDictionary>& missing() const;
 
  private:
   struct Impl;

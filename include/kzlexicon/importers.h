@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <iosfwd>
 #include <string>
+#include <vector>
 
 #include "kzlexicon/export.h"
 #include "kzlexicon/source.h"
@@ -18,14 +19,19 @@ namespace kz::lexicon {
 
 // What was read, written and left out.
 struct ImportSummary {
+  std::string name;  // of the database
   std::string language;
   std::size_t articles = 0;
   std::size_t entries = 0;
-  std::size_t bad_characters = 0;  // headwords left out: a character is not in the code page
-  std::size_t unindexed = 0;       // headwords left out: the index cannot hold them
-  std::size_t empty = 0;           // articles of which no translation is left
+  std::size_t plain_headwords = 0;  // written in plain letters: a character is not in the code page
+  std::size_t bad_characters = 0;   // headwords left out: a character is not in the code page
+  std::size_t unindexed = 0;        // headwords left out: without a letter, or too long
+  std::size_t empty = 0;            // articles of which no translation is left
   Losses losses;
 };
+
+// The files of a database of dictd, which any of them names, or BASE without an extension.
+KZL_API std::vector<std::string> dictd_files(const std::string& base);
 
 // A database of dictd: BASE.index with BASE.dict or BASE.dict.dz. `language` is that of the
 // dictionary, "ENRU"; when it is empty, it is derived from the name and the data. Writes directives

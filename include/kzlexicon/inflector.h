@@ -14,6 +14,7 @@
 #ifndef KZLEXICON_INFLECTOR_H
 #define KZLEXICON_INFLECTOR_H
 
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -36,15 +37,15 @@ struct InflectionReading {
 struct Ending {
   std::string ending;
   std::string rest;        // the word without it
-  std::string attributes;  // as the text of the table has them: "ами NM 1 | NF 1"
+  std::string attributes;  // the ending with its attributes: "ами NM 1 | NF 1"
   std::vector<InflectionReading> readings;
 };
 
-struct HeadwordForm {
-  enum class Group { kMasculine, kFeminine, kNeuter, kPlural, kAdjective, kVerb };
+enum class WordGroup { kMasculine, kFeminine, kNeuter, kPlural, kAdjective, kVerb };
 
+struct HeadwordForm {
   std::string headword;
-  Group group = Group::kMasculine;
+  WordGroup group = WordGroup::kMasculine;
   std::string ending;      // as the table writes it; empty for a form without ending
   std::string word_class;  // "NF 1"
 };
@@ -57,12 +58,14 @@ class KZL_API Inflector {
   Inflector(Inflector&& other) noexcept;
   Inflector& operator=(Inflector&& other) noexcept;
 
-  // Compiles the text of a table, UTF-8, into the file `path`, whose name ends in ".Dat", and puts
-  // the text in Windows-1251 beside it. Throws Error for a line that a reader would pass over or
-  // not understand.
-  static void compile(std::string_view text, const std::string& path,
-                      const std::string& name_of_text = {});
-  static void compile_file(const std::string& text_path, const std::string& path);
+  // Compiles the text of a table, UTF-8, into the file `path`, whose name ends in ".Dat", and
+  // writes the text in Windows-1251 beside it, "ruflex.txt" for "ruflex.Dat". `name` is that of the
+  // text in messages. Throws Error for a line that a reader would pass over or not understand, and
+  // for an output that is the input.
+  static void compile(std::istream& text, const std::string& name, const std::string& path);
+  static void compile_file(const std::string& text_name, const std::string& path);
+  // The name of that text. Throws Error for a name that does not end in ".Dat".
+  static std::string text_path(const std::string& path);
 
   // The known endings of a word, the longest first. Case does not matter.
   std::vector<Ending> endings(std::string_view word) const;

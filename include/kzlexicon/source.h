@@ -1,12 +1,12 @@
 // Source text: the UTF-8 form of a dictionary, one entry per line (docs/sources.md).
 //
 // Lines that are empty or begin with '*' are no entries. A line "*: name value" is a directive that
-// states a property of the dictionary. SourceReader takes such text apart, SourceWriter makes a
-// line of a plain entry, and source_line makes one of an entry of a dictionary.
+// states a property of the dictionary. SourceReader takes such text apart, SourceWriter makes lines
+// of a plain entry, and SourceFormatter those of the entries of a dictionary.
 //
 //     using namespace kz::lexicon;
 //     const SourceText source = SourceReader().add("*: language ENRU\ncat*Nкот\n", "pets").take();
-//     std::cout << source.properties.language << ' ' << source.lines[0].text << '\n';
+//     std::cout << *source.properties.language.value << ' ' << source.lines[0].text << '\n';
 //     SourceWriter writer("ENRU");
 //     std::cout << writer.lines({.headword = "bow", .part_code = "N",
 //                                .meanings = {{.synonyms = {"лук", "поклон (fig.)"}}}})[0] << '\n';
@@ -18,8 +18,10 @@
 #include <cstddef>
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "kzlexicon/dictionary.h"
@@ -34,12 +36,17 @@ struct SourceLine {
   std::string text;      // UTF-8, not yet checked
 };
 
-// What directives state; empty where nothing is stated.
+// What an option or a directive states; no value where nothing is stated.
+struct Property {
+  std::optional<std::string> value{};
+  Place place{};  // of a directive; without a file for an option
+};
+
 struct Properties {
-  std::string language;
-  std::string type;
-  std::string title;
-  std::string label;
+  Property language{};
+  Property type{};
+  Property title{};
+  Property label{};
 };
 
 struct SourceText {
@@ -52,17 +59,18 @@ struct SourceText {
 
 class KZL_API SourceReader {
  public:
-  // Directives of other texts may repeat those of the first but not contradict them. Properties
-  // that are set here win over all directives. Throws Error, as the rest does.
-  explicit SourceReader(Properties stated = {});
+  // Properties that options state win over all directives.
+  explicit SourceReader(Properties options = {});
 
+  // Adds a text; `name` stands for it in messages. A text may repeat the directives of those before
+  // but not contradict them. Throws Error.
   SourceReader& add(std::string_view text, const std::string& name);
   SourceReader& add(std::istream& text, const std::string& name);
   SourceReader& add_file(const std::string& path);
-  SourceText take();
+
+  SourceText take() { return std::move(source_); }
 
  private:
-  Properties stated_;
   SourceText source_;
 };
 
@@ -75,6 +83,7 @@ struct PlainMeaning {
 
 struct PlainEntry {
   std::string headword;
+  std::string spelling{};  // as written, where that differs
   std::string part_code = "W";
   std::string attribute{};  // tags without brackets
   std::vector<PlainMeaning> meanings{};
@@ -105,15 +114,28 @@ class KZL_API SourceWriter {
   std::unique_ptr<Impl> impl_;
 };
 
-// The directives that state the properties of a dictionary.
-KZL_API std::string source_directives(const Header& header);
+// Turns the entries of a dictionary back into the lines of which they were built.
+class KZL_API SourceFormatter {
+ public:
+  explicit SourceFormatter(const Header& header);
+  ~SourceFormatter();
+  SourceFormatter(SourceFormatter&& other) noexcept;
+  SourceFormatter& operator=(SourceFormatter&& other) noexcept;
 
-struct ExactLine {
-  std::string text;   // UTF-8
-  bool exact = true;  // a build makes the same entry of it
+  // The directives that state the properties of the dictionary.
+  std::string directives() const;
+
+  struct Line {
+    std::string text;   // UTF-8
+    bool exact = true;  // a build makes the same entry of it
+  };
+  // A headword that was stored in lower case has its spelling again.
+  Line line(const Entry& entry) const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
 };
-// The source line of an entry. A headword that was stored in lower case has its spelling again.
-KZL_API ExactLine source_line(const Entry& entry, const Header& header);
 
 }  // namespace kz::lexicon
 

@@ -25,7 +25,7 @@ void expect(const std::string& name, const char* found, const Record& record) {
 
 void verify_dictionary(const std::string& path, const std::string& name,
                        const std::vector<Record>& records) {
-  const Dictionary dictionary = open_dictionary(path, 0);
+  const DictionaryHandle dictionary = open_dictionary(path, 0);
   const char* found = nullptr;
   for (std::size_t i = 0; i < records.size(); ++i) {
     const bool again = i > 0 && records[i].headword == records[i - 1].headword;

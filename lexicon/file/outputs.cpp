@@ -1,5 +1,5 @@
 // Comparison of files by device and inode.
-#include "lexicon/file/outputs.h"
+#include "kzlexicon/output.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

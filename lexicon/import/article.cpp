@@ -46,7 +46,7 @@ constexpr std::array<std::pair<std::u32string_view, std::string_view>, 3> kGende
     {{U"masc", "M|"}, {U"fem", "F|"}, {U"neut", "N|"}}};
 
 // "<n, fem>": the part of speech and the gender of the head word.
-void take_grammar(std::u32string_view grammar, PlainEntry& entry) {
+void take_grammar(std::u32string_view grammar, EntryDraft& entry) {
   for (const std::u32string& mark : split_outside_parentheses(grammar, U",")) {
     for (const PartName& part : kParts) {
       if (mark == part.name) entry.part = part.code;
@@ -92,8 +92,8 @@ bool is_marked(std::u32string_view first_line) {
          first_line.find(U" <") != std::u32string_view::npos;
 }
 
-std::vector<PlainEntry> read_marked(const std::vector<std::u32string>& lines) {
-  PlainEntry entry;
+std::vector<EntryDraft> read_marked(const std::vector<std::u32string>& lines) {
+  EntryDraft entry;
   const std::u32string_view first = lines[0];
   const std::size_t head_end = std::min(first.find(U" /"), first.find(U" <"));
   entry.headword = trimmed(first.substr(0, head_end));
@@ -117,7 +117,7 @@ std::vector<PlainEntry> read_marked(const std::vector<std::u32string>& lines) {
   return {entry};
 }
 
-std::vector<PlainEntry> read_article(std::u32string_view article) {
+std::vector<EntryDraft> read_article(std::u32string_view article) {
   if (article.starts_with(U'\uFEFF')) article.remove_prefix(1);
   const std::vector<std::u32string> lines = lines_of(article);
   if (lines.empty()) return {};

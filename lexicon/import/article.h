@@ -16,12 +16,12 @@
 namespace kz::lexicon {
 
 // The entries of one article: one per part of speech. Their headword is that of the first line.
-std::vector<PlainEntry> read_article(std::u32string_view article);
+std::vector<EntryDraft> read_article(std::u32string_view article);
 
 // Steps of read_article.
 bool is_marked(std::u32string_view first_line);
-std::vector<PlainEntry> read_marked(const std::vector<std::u32string>& lines);
-std::vector<PlainEntry> read_labelled(const std::vector<std::u32string>& lines);
+std::vector<EntryDraft> read_marked(const std::vector<std::u32string>& lines);
+std::vector<EntryDraft> read_labelled(const std::vector<std::u32string>& lines);
 
 }  // namespace kz::lexicon
 

@@ -122,7 +122,7 @@ class LabelledReader {
     append(line);
   }
 
-  std::vector<PlainEntry> finish() {
+  std::vector<EntryDraft> finish() {
     close_part();
     return std::move(entries_);
   }
@@ -182,7 +182,7 @@ class LabelledReader {
     std::u32string intro = without_pronunciation(std::exchange(intro_, {}));
     const std::vector<Meaning> meanings = std::exchange(meanings_, {});
     if (intro.empty() && meanings.empty()) return;
-    PlainEntry entry;
+    EntryDraft entry;
     entry.headword = headword_;
     std::u32string prefix = prefix_;
     char part = take_part(intro);
@@ -204,13 +204,13 @@ class LabelledReader {
   std::u32string prefix_;
   std::u32string intro_;
   std::vector<Meaning> meanings_;
-  std::vector<PlainEntry> entries_;
+  std::vector<EntryDraft> entries_;
   bool in_part_ = false;
 };
 
 }  // namespace
 
-std::vector<PlainEntry> read_labelled(const std::vector<std::u32string>& lines) {
+std::vector<EntryDraft> read_labelled(const std::vector<std::u32string>& lines) {
   LabelledReader reader(trimmed(lines[0]));
   for (std::size_t i = 1; i < lines.size(); ++i) {
     const std::u32string line = trimmed(lines[i]);

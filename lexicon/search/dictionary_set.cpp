@@ -1,5 +1,5 @@
 // Set of a direction: base dictionaries, or those of a parameter string.
-#include "lexicon/search/dictionary_set.h"
+#include "kzlexicon/dictionary_set.h"
 
 #include <filesystem>
 #include <sstream>
@@ -7,14 +7,14 @@
 #include <utility>
 
 #include "kz/dic_array.h"
-#include "kz/dictionary.h"
+#include "kz/dic_set.h"
 #include "kzlexicon/error.h"
+#include "lexicon/search/dictionary_impl.h"
 #include "lexicon/source/entry_layout.h"
 
 namespace kz::lexicon {
 namespace {
 
-constexpr std::int16_t kAllDictionaries = 0;
 constexpr std::string_view kHeader = "-C";
 
 std::string direction_of(std::string text) {
@@ -77,13 +77,33 @@ std::vector<MissingDictionary> missing_of(const ZCObArray& array,
   return missing;
 }
 
+struct CloseSet {
+  void operator()(CDicSys* set) const { DicSysClose(set); }
+};
+
+// In the order of a search.
+std::vector<CDic*> dictionaries_of(CDicSys* set) {
+  std::vector<CDic*> all;
+  CDic* dictionary = DicQueFirst(set, DIC_LIST_ALL, 0);
+  for (; dictionary != nullptr; dictionary = DicQueNext(set, DIC_LIST_ALL)) {
+    all.push_back(dictionary);
+  }
+  return all;
+}
+
 }  // namespace
 
-DictionarySet::DictionarySet(const SetOptions& options) {
+struct DictionarySet::Impl {
+  std::unique_ptr<CDicSys, CloseSet> set;
+  std::vector<Dictionary> dictionaries;
+  std::vector<MissingDictionary> missing;
+};
+
+DictionarySet::DictionarySet(const SetOptions& options) : impl_(std::make_unique<Impl>()) {
   std::vector<PathList> lists;
   if (!options.config.empty()) lists = parse_config(options.config, options.direction);
   if (options.direction.empty() && lists.empty()) {
-    throw Error(ErrorCode::kArgument, "no direction: use --direction ENRU");
+    throw Error(ErrorCode::kArgument, "a set needs a direction");
   }
   const std::string direction =
       options.direction.empty() ? lists[0].direction : direction_of(options.direction);
@@ -93,32 +113,34 @@ DictionarySet::DictionarySet(const SetOptions& options) {
   if (!directory.ends_with('/')) directory += '/';
   std::error_code ignored;
   if (!std::filesystem::is_directory(directory, ignored)) {
-    throw Error(ErrorCode::kFile, directory + ": not a directory");
+    throw Error(ErrorCode::kFile, "not a directory", {directory});
   }
-  set_.reset(DicSysOpen(0, direction.c_str(), directory.c_str()));
-  if (!set_) throw Error(ErrorCode::kFile, "not enough memory for the set");
+  impl_->set.reset(DicSysOpen(0, direction.c_str(), directory.c_str()));
+  CDicSys* const set = impl_->set.get();
+  if (set == nullptr) throw Error(ErrorCode::kFile, "not enough memory for the set");
   if (lists.empty()) {
-    DicSysLoadCommon(set_.get());
+    DicSysLoadCommon(set);
   } else {
     for (const PathList& list : lists) {
-      DicArrayAddPath(set_.get(), -1, list.direction.c_str(), list.paths.c_str());
+      DicArrayAddPath(set, -1, list.direction.c_str(), list.paths.c_str());
     }
-    DicArrayLoad(set_.get(), DicArraySelect(set_.get(), nullptr), 0);
+    DicArrayLoad(set, DicArraySelect(set, nullptr), 0);
   }
-  const std::vector<CDic*> loaded = dictionaries();
-  missing_ = missing_of(*DicArraySelect(set_.get(), nullptr), loaded, directory);
+  const std::vector<CDic*> loaded = dictionaries_of(set);
+  impl_->missing = missing_of(*DicArraySelect(set, nullptr), loaded, directory);
   if (loaded.empty()) {
-    throw Error(ErrorCode::kFile, directory + ": no dictionary of " + direction + " can be loaded");
+    throw Error(ErrorCode::kFile, "no dictionary of " + direction + " can be loaded", {directory});
+  }
+  for (CDic* const dictionary : loaded) {
+    impl_->dictionaries.push_back(Dictionary(std::make_unique<Dictionary::Impl>(dictionary)));
   }
 }
 
-std::vector<CDic*> DictionarySet::dictionaries() const {
-  std::vector<CDic*> all;
-  CDic* dictionary = DicQueFirst(set_.get(), kAllDictionaries, 0);
-  for (; dictionary != nullptr; dictionary = DicQueNext(set_.get(), kAllDictionaries)) {
-    all.push_back(dictionary);
-  }
-  return all;
-}
+DictionarySet::~DictionarySet() = default;
+DictionarySet::DictionarySet(DictionarySet&& other) noexcept = default;
+DictionarySet& DictionarySet::operator=(DictionarySet&& other) noexcept = default;
+
+std::span<Dictionary> DictionarySet::dictionaries() { return impl_->dictionaries; }
+const std::vector<MissingDictionary>& DictionarySet::missing() const { return impl_->missing; }
 
 }  // namespace kz::lexicon

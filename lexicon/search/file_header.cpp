@@ -7,7 +7,8 @@
 #include <string_view>
 
 #include "kz/dic_header.h"
-#include "kzlexicon/error.h"
+#include "kzlexicon/code_page.h"
+#include "lexicon/source/entry_layout.h"
 
 namespace kz::lexicon {
 namespace {
@@ -35,49 +36,65 @@ std::string first_generation_language(std::string_view letters) {
   return letters[0] == 'E' ? "EN" : letters[0] == 'R' ? "RU" : "";
 }
 
+// Packing as readers take it: older versions and word lists know less.
+void set_packing(int packing, std::int64_t shared_bytes, Header& header) {
+  if (header.version <= 538) return;
+  header.packed = packing == 1 || packing == 3;
+  header.shared = (packing == 2 || packing == 3) && header.type != "S";
+  if (header.shared) header.shared_bytes = shared_bytes;
+}
+
 // The first generation names two language letters and has no field for much of the rest.
 FileHeader first_generation(const std::string& bytes) {
   FileHeader header;
-  header.generation = 1;
-  header.label = field(bytes, 40, 8);
-  header.language = first_generation_language(std::string_view(bytes).substr(48, 2));
-  if (!header.language.empty()) header.type.assign(1, header.language.size() == 4 ? 'C' : 'G');
-  header.title = field(bytes, 50, 40);
-  header.property = static_cast<unsigned char>(bytes[99]);
-  header.version = 256;
-  header.depth = signed16(bytes, 102);
-  header.alphabet = signed16(bytes, 104);
+  Header& stated = header.stated;
+  stated.generation = 1;
+  stated.label = field(bytes, 40, 8);
+  stated.language = first_generation_language(std::string_view(bytes).substr(48, 2));
+  if (!stated.language.empty()) stated.type.assign(1, stated.language.size() == 4 ? 'C' : 'G');
+  stated.title = field(bytes, 50, 40);
+  stated.property = static_cast<unsigned char>(bytes[99]);
+  stated.version = 256;
+  stated.depth = signed16(bytes, 102);
+  stated.alphabet = signed16(bytes, 104);
   header.index_offset = signed32(bytes, 106);
   header.data_offset = 124;
-  header.file_size = little_endian(bytes, 110, 4);
-  header.time_stamp = signed32(bytes, 114);
+  stated.file_size = little_endian(bytes, 110, 4);
+  stated.time_stamp = signed32(bytes, 114);
   return header;
 }
 
 FileHeader later_generation(const std::string& bytes) {
   FileHeader header;
-  header.generation = bytes.starts_with(DIC_SIGNATURE) ? 3 : 2;
-  header.label = field(bytes, 48, 8);
-  header.language = field(bytes, 56, 5);
-  header.type = field(bytes, 61, 2);
-  header.title = field(bytes, 63, 40);
-  header.has_password = bytes.substr(104, 8) != std::string(8, '\0');
-  header.property = static_cast<unsigned char>(bytes[112]);
-  header.version = static_cast<int>(little_endian(bytes, 113, 2));
-  header.depth = signed16(bytes, 115);
-  header.alphabet = signed16(bytes, 117);
+  Header& stated = header.stated;
+  stated.generation = bytes.starts_with(DIC_SIGNATURE) ? 3 : 2;
+  stated.label = field(bytes, 48, 8);
+  stated.language = field(bytes, 56, 5);
+  stated.type = field(bytes, 61, 2);
+  stated.title = field(bytes, 63, 40);
+  stated.has_password = bytes.substr(104, 8) != std::string(8, '\0');
+  stated.property = static_cast<unsigned char>(bytes[112]);
+  stated.version = static_cast<int>(little_endian(bytes, 113, 2));
+  stated.depth = signed16(bytes, 115);
+  stated.alphabet = signed16(bytes, 117);
   header.index_offset = signed32(bytes, 119);
   header.data_offset = little_endian(bytes, 123, 4);
-  header.file_size = little_endian(bytes, 127, 4);
-  header.time_stamp = signed32(bytes, 131);
-  header.packing = static_cast<unsigned char>(bytes[141]);
-  header.shared_offset = little_endian(bytes, 142, 4);
+  stated.file_size = little_endian(bytes, 127, 4);
+  stated.time_stamp = signed32(bytes, 131);
+  set_packing(static_cast<unsigned char>(bytes[141]), little_endian(bytes, 150, 4), stated);
   header.index_count = signed32(bytes, 146);
-  header.shared_size = little_endian(bytes, 150, 4);
   DicHeader record;
   std::memcpy(&record, bytes.data(), sizeof record);
-  header.checksum_agrees = kz_dict_chk_csd(&record) != 0;
+  stated.checksum_agrees = kz_dict_chk_csd(&record) != 0;
   return header;
+}
+
+// Bytes of the letter index.
+std::int64_t index_bytes(const FileHeader& header) {
+  const std::int64_t letters = header.stated.alphabet;
+  if (header.stated.depth == 5) return header.index_count * 8;
+  const std::int64_t cells = letters * (letters + 1);
+  return (header.stated.depth == 3 ? cells * (letters + 1) : cells) * 4;
 }
 
 }  // namespace
@@ -107,7 +124,15 @@ FileHeader read_file_header(const std::string& path) {
     throw Error(ErrorCode::kData, "the header is cut short",
                 {path, 0, 0, static_cast<long long>(bytes.size())});
   }
-  return bytes.starts_with(kFirstGeneration) ? first_generation(bytes) : later_generation(bytes);
+  FileHeader header =
+      bytes.starts_with(kFirstGeneration) ? first_generation(bytes) : later_generation(bytes);
+  Header& stated = header.stated;
+  const CodePage page = header_page(stated.language);
+  stated.title = decode_utf8(stated.title, page);
+  stated.label = decode_utf8(stated.label, page);
+  stated.record_bytes = header.index_offset - header.data_offset;
+  stated.index_bytes = index_bytes(header);
+  return header;
 }
 
 }  // namespace kz::lexicon

@@ -5,32 +5,15 @@
 #include <cstdint>
 #include <string>
 
+#include "kzlexicon/dictionary.h"
+
 namespace kz::lexicon {
 
 struct FileHeader {
-  int generation = 0;  // 1, 2, or 3 for the current format
-  std::string label;
-  std::string language;
-  std::string type;
-  std::string title;
-  bool has_password = false;
-  bool checksum_agrees = false;
-  int property = 0;
-  int version = 0;
-  int depth = 0;
-  int alphabet = 0;
+  Header stated;
   std::int64_t index_offset = 0;
   std::int64_t data_offset = 0;
-  std::int64_t file_size = 0;
-  std::int64_t time_stamp = 0;
-  int packing = 0;
-  std::int64_t shared_offset = 0;
-  std::int64_t index_count = 0;
-  std::int64_t shared_size = 0;
-
-  // Packing as readers take it: older versions and word lists know less.
-  bool packed() const { return version > 538 && (packing == 1 || packing == 3); }
-  bool shared() const { return version > 538 && (packing == 2 || packing == 3) && type != "S"; }
+  std::int64_t index_count = 0;  // of a key list
 };
 
 // Reads the header of a dictionary that has been opened before, so that its header is known to be

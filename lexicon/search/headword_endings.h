@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace kz::lexicon {
+#include "kzlexicon/inflector.h"
 
-enum class WordGroup { kMasculine, kFeminine, kNeuter, kPlural, kAdjective, kVerb };
+namespace kz::lexicon {
 
 // In the text '~' stands for the first letter that was taken off the form. The stem must end in one
 // of the letters `after`, the letters taken off begin with one of `from`; empty for any.

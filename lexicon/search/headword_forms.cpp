@@ -190,7 +190,7 @@ class Candidates {
     }
   }
 
-  std::vector<HeadwordForm> take() { return std::move(forms_); }
+  std::vector<HeadwordCandidate> take() { return std::move(forms_); }
 
  private:
   void add_record(const std::string& ending, const FormClass& form) {
@@ -254,13 +254,13 @@ class Candidates {
   }
 
   std::u32string word_;
-  std::vector<HeadwordForm> forms_;
+  std::vector<HeadwordCandidate> forms_;
   std::set<std::pair<std::u32string, WordGroup>> seen_;
 };
 
 }  // namespace
 
-std::vector<HeadwordForm> headword_forms(const std::string& word, CGrSrcWordFlex& table) {
+std::vector<HeadwordCandidate> headword_forms(const std::string& word, CGrSrcWordFlex& table) {
   // Bytes without a character would not come back.
   if (decode(word, CodePage::kRussian).find(U'\uFFFD') != std::u32string::npos) return {};
   Candidates candidates(word);

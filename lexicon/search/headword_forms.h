@@ -10,7 +10,7 @@
 
 namespace kz::lexicon {
 
-struct HeadwordForm {
+struct HeadwordCandidate {
   std::string headword;  // Windows-1251
   WordGroup group;
   std::string ending;      // as the table writes it; empty for a form without ending
@@ -20,7 +20,7 @@ struct HeadwordForm {
 // The headwords to look for, the most likely first: by the longest known ending, the order of its
 // records, with the stem as it is before one with a change, last as a form without ending. `word`
 // is Windows-1251 in lower case. Most of the headwords do not exist; none is there twice.
-std::vector<HeadwordForm> headword_forms(const std::string& word, CGrSrcWordFlex& table);
+std::vector<HeadwordCandidate> headword_forms(const std::string& word, CGrSrcWordFlex& table);
 
 }  // namespace kz::lexicon
 

@@ -14,8 +14,8 @@
 #include "kz/file.h"
 #include "kz/gram_codec.h"
 #include "kzlexicon/error.h"
-#include "lexicon/file/delivery.h"
-#include "lexicon/file/outputs.h"
+#include "kzlexicon/output.h"
+#include "lexicon/search/inflector_table.h"
 #include "lexicon/source/source_text.h"
 #include "lexicon/text/code_page.h"
 
@@ -77,13 +77,12 @@ std::string fault_of(const std::vector<std::string>& attributes) {
 }
 
 // Windows-1251 lines of a text in UTF-8, all of which the library understands.
-std::string encode_text(const std::string& path, std::istream* standard_input) {
-  const SourceText source = read_source({path}, Marked::kComment, {}, standard_input);
+std::string encode_text(const SourceText& source) {
   std::map<std::string, std::size_t> seen;
   std::string bytes;
   for (const SourceLine& line : source.lines) {
     const auto fail = [&](ErrorCode code, const std::string& fault) {
-      throw Error(code, fault, {source.files[line.file], line.line});
+      throw Error(code, fault, source.place(line));
     };
     try {
       const std::string encoded = encode(from_utf8(line.text), CodePage::kRussian);
@@ -151,20 +150,43 @@ std::string compile(const std::string& lines, const std::string& source) {
   return bytes + entries;
 }
 
-}  // namespace
+SourceText lines_of(std::istream& text, const std::string& name) {
+  SourceText source;
+  read_source(text, name, Marked::kComment, source);
+  return source;
+}
 
-void build_table(const std::string& source, const std::string& path, std::istream* standard_input) {
-  const std::string text = text_path(path);
-  refuse_inputs_as_output(text, {source, path});
-  refuse_inputs_as_output(path, {source});
-  const std::string bytes = encode_text(source, standard_input);
-  const std::string compiled = compile(bytes, source);
-  Delivery text_file(text);
-  Delivery table_file(path);
+SourceText lines_of_file(const std::string& path) {
+  SourceText source;
+  read_source_file(path, Marked::kComment, source);
+  return source;
+}
+
+// Writes the table and its text beside it.
+void write_table(const SourceText& source, const std::string& name, const std::string& path) {
+  const std::string bytes = encode_text(source);
+  const std::string compiled = compile(bytes, name);
+  OutputFile text_file(text_path(path));
+  OutputFile table_file(path);
   text_file.stream() << bytes;
   table_file.stream() << compiled;
-  text_file.deliver();
-  table_file.deliver();
+  text_file.commit();
+  table_file.commit();
+}
+
+}  // namespace
+
+std::string Inflector::text_path(const std::string& path) { return kz::lexicon::text_path(path); }
+
+void Inflector::compile(std::istream& text, const std::string& name, const std::string& path) {
+  text_path(path);
+  write_table(lines_of(text, name), name, path);
+}
+
+void Inflector::compile_file(const std::string& text_name, const std::string& path) {
+  refuse_inputs_as_output(text_path(path), {text_name, path});
+  refuse_inputs_as_output(path, {text_name});
+  write_table(lines_of_file(text_name), text_name, path);
 }
 
 std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path) {

@@ -1,8 +1,7 @@
-// Inflection tables of the tool: making one from a UTF-8 text, loading it, endings of a word.
+// Loaded inflection tables, and the endings of a word.
 #ifndef KZ_LEXICON_INFLECT_TABLE_H
 #define KZ_LEXICON_INFLECT_TABLE_H
 
-#include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
@@ -10,12 +9,6 @@
 #include "kz/inflection.h"
 
 namespace kz::lexicon {
-
-// Writes the table `path`, whose name ends in ".Dat", and the Windows-1251 text beside it from a
-// text in UTF-8. A line that the library would pass over or not understand is an error, and so is
-// an output that is an input. Throws Error.
-void build_table(const std::string& source, const std::string& path,
-                 std::istream* standard_input = nullptr);
 
 // Never makes a table. Throws Error.
 std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path);

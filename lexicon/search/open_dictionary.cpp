@@ -8,8 +8,8 @@
 
 namespace kz::lexicon {
 
-Dictionary open_dictionary(const std::string& path, std::int16_t mode) {
-  Dictionary dictionary(DicOpen(path.c_str(), mode));
+DictionaryHandle open_dictionary(const std::string& path, std::int16_t mode) {
+  DictionaryHandle dictionary(DicOpen(path.c_str(), mode));
   if (dictionary) return dictionary;
   const std::uint16_t code = kz_dict_dic_errno();
   const int reason = kz_dict_errno();

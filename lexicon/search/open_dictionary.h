@@ -13,10 +13,10 @@ namespace kz::lexicon {
 struct CloseDictionary {
   void operator()(CDic* dictionary) const { DicClose(dictionary); }
 };
-using Dictionary = std::unique_ptr<CDic, CloseDictionary>;
+using DictionaryHandle = std::unique_ptr<CDic, CloseDictionary>;
 
 // Throws Error: kFile when the file cannot be opened, kDamaged when it is no dictionary.
-Dictionary open_dictionary(const std::string& path, std::int16_t mode);
+DictionaryHandle open_dictionary(const std::string& path, std::int16_t mode);
 
 }  // namespace kz::lexicon
 

@@ -191,7 +191,7 @@ std::u32string BodyWriter::protect(std::u32string_view text) const {
 }
 
 // The meaning as one or more texts of at most kBodyMax characters.
-std::vector<std::u32string> BodyWriter::meaning_texts(const PlainMeaning& meaning) {
+std::vector<std::u32string> BodyWriter::meaning_texts(const MeaningDraft& meaning) {
   std::u32string lead;
   if (meaning.number > 0) {
     for (const char c : std::to_string(meaning.number) + ".") lead += static_cast<char32_t>(c);
@@ -229,9 +229,9 @@ std::vector<std::u32string> BodyWriter::meaning_texts(const PlainMeaning& meanin
   return texts;
 }
 
-std::vector<std::string> BodyWriter::lines(const PlainEntry& entry) {
+std::vector<std::string> BodyWriter::lines(const EntryDraft& entry) {
   std::vector<std::u32string> bodies;
-  for (const PlainMeaning& meaning : entry.meanings) {
+  for (const MeaningDraft& meaning : entry.meanings) {
     for (const std::u32string& text : meaning_texts(meaning)) {
       if (bodies.empty() || bodies.back().size() + 1 + text.size() > kBodyMax) {
         bodies.push_back(text);

@@ -7,29 +7,23 @@
 #include <string_view>
 #include <vector>
 
+#include "kzlexicon/source.h"
+
 namespace kz::lexicon {
 
 // A meaning in plain Unicode text.
-struct PlainMeaning {
+struct MeaningDraft {
   int number = 0;  // 0: without a number
   std::u32string definition;
   std::vector<std::u32string> synonyms;
 };
 
-struct PlainEntry {
+struct EntryDraft {
   std::u32string headword;
   std::u32string spelling;  // where the headword cannot be what it is written as
   char part = 'W';
   std::string attribute;  // tags without brackets
-  std::vector<PlainMeaning> meanings;
-};
-
-// What a BodyWriter could not keep.
-struct Losses {
-  std::size_t characters = 0;   // written otherwise or dropped: the code page lacks them
-  std::size_t definitions = 0;  // too long, dropped
-  std::size_t synonyms = 0;     // empty after cleaning
-  std::size_t meanings = 0;     // without any synonym
+  std::vector<MeaningDraft> meanings;
 };
 
 class BodyWriter {
@@ -38,7 +32,7 @@ class BodyWriter {
 
   // The entry as source lines, UTF-8: several with the same headword when it does not fit one, none
   // when no meaning is left of it.
-  std::vector<std::string> lines(const PlainEntry& entry);
+  std::vector<std::string> lines(const EntryDraft& entry);
 
   const Losses& losses() const { return losses_; }
 
@@ -47,7 +41,7 @@ class BodyWriter {
   std::u32string protect(std::u32string_view text) const;
   bool is_code_letter(char32_t c) const;
   bool needs_braces(std::u32string_view word) const;
-  std::vector<std::u32string> meaning_texts(const PlainMeaning& meaning);
+  std::vector<std::u32string> meaning_texts(const MeaningDraft& meaning);
 
   std::string language_;
   Losses losses_;

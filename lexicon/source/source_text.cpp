@@ -5,6 +5,7 @@
 #include <cstring>
 #include <fstream>
 #include <istream>
+#include <sstream>
 #include <string_view>
 
 #include "kzlexicon/error.h"
@@ -39,16 +40,16 @@ void take_directive(SourceText& source, const SourceLine& line) {
     throw Error(
         ErrorCode::kData,
         "unknown directive '" + std::string(name) + "' (there are language, type, title and label)",
-        {source.files[line.file], line.line});
+        source.place(line));
   }
   // An option has no place.
-  if (stated->value && stated->place.empty()) return;
+  if (stated->value && stated->place.file.empty()) return;
   if (stated->value && *stated->value != value) {
     throw Error(ErrorCode::kData,
                 std::string(name) + " was stated before as '" + *stated->value + "'",
-                {source.files[line.file], line.line});
+                source.place(line));
   }
-  *stated = {std::string(value), source.place(line, "")};
+  *stated = {std::string(value), source.place(line)};
 }
 
 void read_lines(SourceText& source, std::istream& in, Marked marked) {
@@ -67,30 +68,38 @@ void read_lines(SourceText& source, std::istream& in, Marked marked) {
 
 }  // namespace
 
-std::string SourceText::place(const SourceLine& line, const std::string& message) const {
-  return at_place({files[line.file], line.line}, message);
+void read_source(std::istream& text, const std::string& name, Marked marked, SourceText& source) {
+  source.files.push_back(name);
+  read_lines(source, text, marked);
+  if (text.bad()) {
+    throw Error(ErrorCode::kFile, std::string("cannot read: ") + std::strerror(errno), {name});
+  }
 }
 
-SourceText read_source(const std::vector<std::string>& paths, Marked marked,
-                       const Properties& options, std::istream* standard_input) {
-  SourceText source;
-  source.properties = options;
-  for (const std::string& path : paths) {
-    if (path == "-" && standard_input != nullptr) {
-      source.files.emplace_back("(standard input)");
-      read_lines(source, *standard_input, marked);
-      continue;
-    }
-    source.files.push_back(path);
-    errno = 0;
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-      throw Error(ErrorCode::kFile, std::string("cannot open: ") + std::strerror(errno), {path});
-    read_lines(source, in, marked);
-    if (in.bad())
-      throw Error(ErrorCode::kFile, std::string("cannot read: ") + std::strerror(errno), {path});
+void read_source_file(const std::string& path, Marked marked, SourceText& source) {
+  errno = 0;
+  std::ifstream in(path, std::ios::binary);
+  if (!in) {
+    throw Error(ErrorCode::kFile, std::string("cannot open: ") + std::strerror(errno), {path});
   }
-  return source;
+  read_source(in, path, marked, source);
+}
+
+SourceReader::SourceReader(Properties options) { source_.properties = std::move(options); }
+
+SourceReader& SourceReader::add(std::string_view text, const std::string& name) {
+  std::istringstream in{std::string(text)};
+  return add(in, name);
+}
+
+SourceReader& SourceReader::add(std::istream& text, const std::string& name) {
+  read_source(text, name, Marked::kDirective, source_);
+  return *this;
+}
+
+SourceReader& SourceReader::add_file(const std::string& path) {
+  read_source_file(path, Marked::kDirective, source_);
+  return *this;
 }
 
 }  // namespace kz::lexicon

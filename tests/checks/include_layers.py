@@ -24,7 +24,7 @@ ALLOWED = {
     "dicset": DICTIONARY | {"dicset"},
     "grammar": FOUNDATION | TEXT | {"grammar"},
     "morphology": UTIL | {"grammar", "morphology"},
-    "lexicon": {"lexicon", "platform/replace.h"},
+    "lexicon": {"lexicon", "platform/replace.h", "platform/memory_file.h"},
     "tools": {"tools", "lexicon"},
     "examples": set(),
     "bench": {"bench", "text/literal.h"},

@@ -180,7 +180,7 @@ TEST(BodyWriter, HidesEveryMarkFromTheParser) {
     std::u32string text;
     for (std::size_t i = random() % 40; i > 0; --i)
       text += characters[random() % characters.size()];
-    kzdic::PlainEntry entry;
+    kzdic::EntryDraft entry;
     entry.headword = U"word";
     entry.part = 'N';
     entry.meanings = {{1, {}, {text}}, {2, {}, {U"слово", text}}};
@@ -203,7 +203,7 @@ TEST(BodyWriter, HidesEveryMarkFromTheParser) {
 }
 
 TEST(BodyWriter, SpreadsLongEntriesOverRecordsAndKeepsEverySynonym) {
-  kzdic::PlainEntry entry;
+  kzdic::EntryDraft entry;
   entry.headword = U"long";
   for (int i = 1; i <= 60; ++i) {
     entry.meanings.push_back({i, {}, {std::u32string(90, U'а'), std::u32string(1, U'б')}});
@@ -242,7 +242,7 @@ TEST(Article, TakesEveryHomonymForItself) {
   };
   for (const auto& [article, expected] : articles) {
     std::vector<std::u32string> entries;
-    for (const kzdic::PlainEntry& entry : kzdic::read_article(article)) {
+    for (const kzdic::EntryDraft& entry : kzdic::read_article(article)) {
       std::u32string text(1, static_cast<char32_t>(entry.part));
       for (const auto& meaning : entry.meanings) {
         for (const std::u32string& synonym : meaning.synonyms) {

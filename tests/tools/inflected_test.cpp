@@ -136,7 +136,7 @@ TEST_F(InflectedTest, CandidatesAreFewAndDifferent) {
     const std::string word = kzdic::encode(kzdic::from_utf8(form.form), kzdic::CodePage::kRussian);
     std::set<std::pair<std::string, kzdic::WordGroup>> seen;
     const auto candidates = kzdic::headword_forms(word, *table);
-    for (const kzdic::HeadwordForm& candidate : candidates) {
+    for (const kzdic::HeadwordCandidate& candidate : candidates) {
       EXPECT_NE(candidate.headword, word);
       EXPECT_TRUE(seen.emplace(candidate.headword, candidate.group).second) << form.form;
     }
@@ -212,11 +212,12 @@ TEST_F(InflectedTest, CandidatesOfOtherTypesOfWords) {
       const bool miss = form.starts_with('(');
       if (miss) form = form.substr(1, form.size() - 2);
       const auto candidates = kzdic::headword_forms(encoded(form), *table);
-      EXPECT_NE(std::any_of(candidates.begin(), candidates.end(),
-                            [&, bytes = encoded(headword)](const kzdic::HeadwordForm& candidate) {
-                              return candidate.headword == bytes;
-                            }),
-                miss)
+      EXPECT_NE(
+          std::any_of(candidates.begin(), candidates.end(),
+                      [&, bytes = encoded(headword)](const kzdic::HeadwordCandidate& candidate) {
+                        return candidate.headword == bytes;
+                      }),
+          miss)
           << form << " of " << headword;
     }
   }

@@ -1,0 +1,60 @@
+// Output files that take their place when they are finished.
+//
+// The contents go to an unfinished file beside the target; commit() puts it in the place of the
+// target in one step. Without commit() the target stays as it was, and nothing is left.
+//
+//     using namespace kz::lexicon;
+//     OutputFile output("words.txt");
+//     output.stream() << "cat\ndog\n";
+//     output.commit();
+//     std::cout << std::ifstream("words.txt").rdbuf();
+//     // Output: cat
+//     // Output: dog
+#ifndef KZLEXICON_OUTPUT_H
+#define KZLEXICON_OUTPUT_H
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "kzlexicon/export.h"
+
+namespace kz::lexicon {
+
+class KZL_API OutputFile {
+ public:
+  // A symbolic link stays one: the file it leads to is replaced. A device, a pipe or a socket is
+  // written to when commit() is called. Throws Error, as commit() does.
+  explicit OutputFile(const std::string& target);
+  ~OutputFile();
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+
+  // Takes the contents; a failed write is reported by commit().
+  std::ostream& stream();
+  // The contents as a file descriptor, for writers that need one, and a name under which they can
+  // be opened meanwhile.
+  int handle() const;
+  std::string path() const;
+
+  void commit();
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+// Removes the unfinished files of this process. A host whose signal handler ends the process calls
+// it there: it does nothing that is not allowed in a handler.
+KZL_API void remove_unfinished_files() noexcept;
+
+// Throws Error when the output is the same file as one of the inputs, under whatever names. "-" is
+// standard output, or standard input. Devices that can be read and written at once, such as
+// terminals, and files that are not there are no matter.
+KZL_API void refuse_inputs_as_output(const std::string& output,
+                                     const std::vector<std::string>& inputs);
+
+}  // namespace kz::lexicon
+
+#endif  // KZLEXICON_OUTPUT_H
