@@ -1,4 +1,4 @@
-// Plain functions over entry text: worked cases, and random text in buffers of the exact size.
+// Plain functions over entry text: worked cases in buffers of the exact size.
 #include "kz/entry_text.h"
 
 #include <gtest/gtest.h>
@@ -6,13 +6,13 @@
 #include <algorithm>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "kz/strutil.h"
-#include "tests/common/entry/reference.h"
+#include "text/literal.h"
 
 using kz::operator""_1251;
-using reference::Text;
-using reference::text;
+using Text = std::string;
 
 namespace {
 
@@ -78,7 +78,7 @@ TEST(EntryText, TakesExtendedSynonymCodes) {
     Text source, code, rest;
   } cases[] = {
       {"Abc [x]", "Abc", "[x]"},
-      {text(U"ABЖслово"_1251), text(U"ABЖ"_1251), text(U"слово"_1251)},
+      {Text(U"ABЖслово"_1251), Text(U"ABЖ"_1251), Text(U"слово"_1251)},
       {"123456  x", "123456", " x"},
       {"1234567 x", "", "1234567 x"},
       {"Ab", "Ab", ""},
@@ -109,71 +109,72 @@ TEST(EntryText, GroupsTheVerbCodes) {
 }
 
 TEST(EntryText, TellsNewPartsByTargetLanguage) {
-  EXPECT_EQ(IsDicEntryNewPart("a1", "ENRU", 'N'), 0);
-  EXPECT_EQ(IsDicEntryNewPart("a", "ENRU", 'N'), 'a');
   const struct {
     const char* language;
-    char target;
-  } cases[] = {{"ENRU", 'R'}, {"RUEN", 'E'}, {"RUDE", 'D'},  {"RU", 'R'},
-               {"EN", 'E'},   {"FR", 'F'},   {nullptr, 'R'}, {"", 0}};
-  for (const auto& [language, target] : cases)
-    for (int c = 0; c < 256; ++c)
-      for (const char* next : {"", "1", "x", ")"}) {
-        Exact position(c == 0 ? Text() : static_cast<char>(c) + Text(next));
-        EXPECT_EQ(IsDicEntryNewPart(position.get(), language, 'N'),
-                  reference::new_part(position.get(), target) ? c : 0)
-            << c << next << target;
-      }
+    std::string_view opening;
+  } cases[] = {{"ENRU", "aA&"},     {"RUEN", U"AДд"_1251}, {"RUDE", "A"},    {"RU", "aA&"},
+               {"EN", U"AДд"_1251}, {"FR", "A"},           {nullptr, "aA&"}, {"", "A"}};
+  for (const auto& [language, opening] : cases) {
+    for (const char c : std::string_view(U"aA&Дд1;"_1251)) {
+      const bool opens = opening.find(c) != std::string_view::npos;
+      const char text[] = {c, ')', 0};
+      EXPECT_EQ(IsDicEntryNewPart(text, language, 'N'), opens ? static_cast<unsigned char>(c) : 0);
+    }
+  }
+  EXPECT_EQ(IsDicEntryNewPart("a1", "ENRU", 'N'), 0);
+  EXPECT_EQ(IsDicEntryNewPart("&1", "ENRU", 'N'), '&');
+  EXPECT_EQ(IsDicEntryNewPart("A1", "RUEN", 'N'), 'A');
+  EXPECT_EQ(IsDicEntryNewPart("", "ENRU", 'N'), 0);
 }
 
 TEST(EntryText, FindsTheNextPart) {
-  EXPECT_EQ(GetNextPart(U"слово{A}[B]Aдва"_1251.data(), "ENRU", 'N'), U"Aдва"_1251);
-  EXPECT_EQ(GetNextPart(U"словоa1AAдва"_1251.data(), "ENRU", 'N'), U"Aдва"_1251);
-  EXPECT_STREQ(GetNextPart("wordWb;c/d", "RUDE", 'N'), "d");
-  EXPECT_STREQ(GetNextPart("wordWb", "RUDE", 'N'), "");
-  EXPECT_EQ(GetNextPart(U"word слово"_1251.data(), "RUEN", 'N'), U"слово"_1251);
-  EXPECT_EQ(GetNextPart(U"word|слово/x"_1251.data(), "RUEN", 'W'), std::string_view("/x"));
+  const struct {
+    const char* language;
+    char part;
+    std::string_view text, next;
+  } cases[] = {
+      {"ENRU", 'N', U"слово{A}[B]Aдва"_1251, U"Aдва"_1251},
+      {"ENRU", 'N', U"словоa1AAдва"_1251, U"Aдва"_1251},
+      {"ENRU", 'N', "a1", ""},
+      {"RUDE", 'N', "wordWb;c/d", "d"},
+      {"RUDE", 'N', "wordWb", ""},
+      {"RUDE", 'W', "bWc", "Wc"},
+      {"RUDE", 'N', "a{b", ""},
+      {"RUEN", 'N', U"word слово"_1251, U"слово"_1251},
+      {"RUEN", 'W', U"word|слово/x"_1251, "/x"},
+      // What ends a part besides the letters: in a phrase, in a phrase of words, in a word.
+      {"RUDE", 'W', "b~c", "~c"},
+      {"RUDE", 'W', "b\\c", "\\c"},
+      {"RUDE", 'w', "b/;~\\c&d", "&d"},
+      {"RUDE", 'w', "b c", " c"},
+      {"RUDE", 'N', "b/;&~ c\\d", "\\d"},
+      {"RUDE", 'N', "b#c", "#c"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(GetNextPart(Exact(c.text).get(), c.language, c.part) + Text(), c.next) << c.text;
+  }
 }
 
 TEST(EntryText, PacksWhatDisplaySetApart) {
-  char out[64];
-  EXPECT_EQ(PackEntry(U"слово ; другое"_1251.data(), out, "ENRU", 'N'), U"слово;другое"_1251);
-  EXPECT_STREQ(PackEntry("( x )", out, "ENRU", 'N'), "(x)");
-  EXPECT_EQ(PackEntry(U"два слова"_1251.data(), out, "RUEN", 'N'), U"дваслова"_1251);
-  EXPECT_STREQ(PackEntry(" a # b  c # d { e", out, "RUDE", 'N'), "a#b  c#d{e");
-  EXPECT_STREQ(PackEntry(" \\ a", out, "RUDE", 'N'), "\\a");
-}
-
-TEST(EntryText, WalksRandomTextAsTheSlowModelsDo) {
-  reference::MarkerText random(3);
-  KzWordRecord word = {};
-  for (int i = 0; i < 60000; ++i) {
-    const Text source = random(24);
-    const char* const language = reference::kDirections[i % 6];
-    const char part = random.pick("NVWw");
-    Exact exact(source);
-    ASSERT_EQ(GetNextPart(exact.get(), language, part),
-              reference::from_next_part(source, language[2], part))
-        << language << part << testing::PrintToString(source);
-    const Text packed = reference::pack(source, language[2]);
-    Exact destination(source);
-    ASSERT_EQ(PackEntry(exact.get(), destination.get(), language, part), packed)
-        << language << testing::PrintToString(source);
-    ASSERT_EQ(PackEntry(destination.get(), destination.get(), language, part),
-              reference::pack(packed, language[2]))
-        << "in place";
-
-    const auto in_text = [&](const char* p) {
-      return p >= exact.get() && p <= exact.get() + source.size();
-    };
-    ASSERT_TRUE(in_text(SkipLabels(exact.get())));
-    ASSERT_TRUE(in_text(GetExtSyn(exact.get(), &word)));
-    ASSERT_TRUE(in_text(GetAttrBegin(exact.get())));
-    const char* const stop = GetInf(exact.get(), &word);
-    ASSERT_TRUE(stop == nullptr || in_text(stop));
-    ASSERT_TRUE(in_text(SkipCLabels(exact.get())));
+  const struct {
+    const char* language;
+    std::string_view text, packed;
+  } cases[] = {
+      {"ENRU", U"слово ; другое"_1251, U"слово;другое"_1251},
+      {"ENRU", U"а A б & в A1 г W1 д"_1251, U"аAб&в A1 гW1 д"_1251},
+      {"RUEN", U"два слова"_1251, U"дваслова"_1251},
+      {"RUDE", "a ; b ( c ) d | e / f \\ g W h", "a;b(c)d|e/f\\gWh"},
+      {"RUDE", " a # b  c # d [ e ] f { g", "a#b  c#d[e]f{g"},
+      {"RUDE", " \\ a", "\\a"},
+      {"RUDE", " ", " "},
+      {"RUDE", "", ""},
+  };
+  for (const auto& c : cases) {
+    Exact text(c.text);
+    Exact out(c.text);
+    EXPECT_EQ(PackEntry(text.get(), out.get(), c.language, 'N'), c.packed);
+    EXPECT_EQ(PackEntry(text.get(), text.get(), c.language, 'N'), c.packed) << "in place";
   }
-  kz_misc_free(word.inflection);
 }
 
 }  // namespace
