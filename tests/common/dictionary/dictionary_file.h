@@ -62,11 +62,11 @@ struct DictionaryFile {
   int alphabet_size = 26;
   int version = 600;
   int packing = 0;
-  bool fresh_groups = true;     // packed: front coding starts afresh in every group
-  std::size_t shared_max = 63;  // packed: characters that a record takes over at most
-  std::string end_pair_before;  // packed: the word in front of which the pair 0, 26 stands
-  std::string shared;           // texts, each with its zero
-  std::vector<Record> records;
+  bool fresh_groups = true;       // packed: front coding starts afresh in every group
+  std::size_t shared_max = 63;    // packed: characters that a record takes over at most
+  std::string end_pair_before{};  // packed: the word in front of which the pair 0, 26 stands
+  std::string shared{};           // texts, each with its zero
+  std::vector<Record> records{};
 
   bool packed() const { return version >= 539 && (packing == 1 || packing == 3); }
 

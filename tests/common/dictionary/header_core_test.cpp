@@ -16,18 +16,11 @@ std::optional<kz::Header> accept(Bytes& bytes, std::uint64_t length = kFileLengt
   return kz::accept_header(kz::HeaderBytes(bytes.data(), kz::kHeaderSize), length);
 }
 
-std::uint32_t number(const Bytes& bytes, std::size_t at, std::size_t width) {
-  std::uint32_t value = 0;
-  for (std::size_t i = width; i-- > 0;) value = value << 8 | bytes[at + i];
-  return value;
-}
-
 TEST(AcceptHeader, DecodesTheCurrentLayout) {
   Bytes bytes = sample_header();
-  const Bytes before = bytes;
+  put_text(bytes, 56, "ENRUxCx");  // texts that the file does not terminate
   const auto header = accept(bytes);
   ASSERT_TRUE(header);
-  EXPECT_EQ(bytes, before);
   EXPECT_STREQ(header->language.data(), "ENRU");
   EXPECT_STREQ(header->type.data(), "C");
   EXPECT_EQ(header->password[1], 0x82);
@@ -53,15 +46,6 @@ TEST(AcceptHeader, ComparesTheSignatureTextButNotItsPadding) {
     bytes[i] ^= 0x20;
     EXPECT_EQ(accept(bytes).has_value(), i >= 44) << i;
   }
-}
-
-TEST(AcceptHeader, TerminatesTextsThatTheFileDoesNot) {
-  Bytes bytes = sample_header();
-  put_text(bytes, 56, "ENRUxCx");
-  const auto header = accept(bytes);
-  ASSERT_TRUE(header);
-  EXPECT_STREQ(header->language.data(), "ENRU");
-  EXPECT_STREQ(header->type.data(), "C");
 }
 
 TEST(AcceptHeader, ChecksSizesOfUpgradedHeadersToo) {
@@ -96,7 +80,7 @@ TEST(UpgradeHeader, MovesEveryFieldOfTheFirstGeneration) {
   put_number(expected, 131, 4, 0x12345678);
   put_number(expected, 135, 4, 0x9ABCDEF0);
   EXPECT_EQ(bytes, expected);
-  EXPECT_EQ(header->data_offset, number(expected, 123, 4));
+  EXPECT_EQ(header->data_offset, 124u);
 }
 
 TEST(UpgradeHeader, TellsLanguageAndTypeFromTheTwoLetters) {
@@ -133,18 +117,10 @@ TEST(UpgradeHeader, RefusesOtherVersionsAndDamagedSignatures) {
     EXPECT_EQ(accept(first).has_value(), i >= 40) << i;
     Bytes second = second_generation_header();
     EXPECT_TRUE(accept(second));
+    EXPECT_EQ(second, second_generation_header());
     second[i] ^= 1;
     EXPECT_FALSE(accept(second)) << i;
   }
-}
-
-TEST(UpgradeHeader, LeavesTheSecondGenerationAsItIs) {
-  Bytes bytes = second_generation_header();
-  const Bytes before = bytes;
-  const auto header = accept(bytes);
-  ASSERT_TRUE(header);
-  EXPECT_EQ(bytes, before);
-  EXPECT_EQ(header->index_offset, 500);
 }
 
 }  // namespace

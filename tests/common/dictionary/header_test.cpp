@@ -23,35 +23,35 @@ std::uint16_t open_result(const Bytes& file_bytes) {
   return result;
 }
 
-TEST(DicHeaderOpen, GivesTheHeaderAsItStandsInTheFile) {
+TEST(DicHeaderOpen, GivesTheHeaderAsItStandsInTheFileAndItsTime) {
   const Bytes bytes = padded(sample_header(), kFileLength);
   const ScratchFile file(bytes);
+  ZCFileStatus status;
+  ASSERT_TRUE(ZCFile().GetStatus(file.path(), status));
   DicHeader header;
-  ASSERT_EQ(DicHeaderOpen(file.path(), &header, nullptr), DIC_OK);
+  std::int32_t time = 0;
+  ASSERT_EQ(DicHeaderOpen(file.path(), &header, &time), DIC_OK);
   ASSERT_EQ(sizeof header, 154u);
   EXPECT_EQ(std::memcmp(&header, bytes.data(), sizeof header), 0);
-  EXPECT_EQ(std::string(header.Label, 8), "LABEL-12");
-  EXPECT_STREQ(header.Language, "ENRU");
-  EXPECT_EQ(std::int32_t{header.IndexOffset}, 500);
-  EXPECT_EQ(std::uint32_t{header.SharedSize}, 0xD1D2D3D4u);
+  EXPECT_EQ(time, status.modification_time.GetTime());
 }
 
-TEST(DicHeaderOpen, RefusesEveryDamagedSignatureAndEveryCutHeader) {
+TEST(DicHeaderOpen, RefusesDamagedSignaturesOtherGenerationsAndCutHeaders) {
   const Bytes good = padded(sample_header(), kFileLength);
   for (std::size_t i = 0; i < 48; ++i) {
     Bytes damaged = good;
     damaged[i] ^= 1;
     EXPECT_EQ(open_result(damaged), DIC_ERR_FORMAT) << i;
   }
+  EXPECT_EQ(open_result(padded(first_generation_header(), kFileLength)), DIC_ERR_FORMAT);
+  EXPECT_EQ(open_result(padded(second_generation_header(), kFileLength)), DIC_ERR_FORMAT);
   Bytes small = sample_header();
   put_number(small, 119, 4, 0);
   put_number(small, 127, 4, 0);
   EXPECT_EQ(open_result(small), DIC_OK);
-  for (std::size_t length : {0, 1, 48, 153}) {
-    EXPECT_EQ(open_result(Bytes(small.begin(), small.begin() + static_cast<int>(length))),
-              DIC_ERR_FORMAT)
-        << length;
-  }
+  small.pop_back();
+  EXPECT_EQ(open_result(small), DIC_ERR_FORMAT);
+  EXPECT_EQ(open_result({}), DIC_ERR_FORMAT);
 }
 
 TEST(DicHeaderOpen, ChecksSizesAgainstTheFile) {
@@ -59,17 +59,11 @@ TEST(DicHeaderOpen, ChecksSizesAgainstTheFile) {
     std::uint32_t index_offset, file_size;
     std::uint16_t result;
   } cases[] = {
-      {0, 1000, DIC_OK},
-      {154, 0, DIC_OK},
-      {1000, 1000, DIC_OK},
-      {1, 1000, DIC_ERR_FORMAT},
-      {100, 1000, DIC_ERR_FORMAT},
-      {153, 1000, DIC_ERR_FORMAT},
-      {1001, 0, DIC_ERR_FORMAT},
-      {0xFFFFFFFF, 1000, DIC_ERR_FORMAT},
-      {500, 999, DIC_OK},
-      {500, 1001, DIC_ERR_FORMAT},
-      {500, 0x80000000, DIC_ERR_FORMAT},
+      {0, 1000, DIC_OK},           {154, 0, DIC_OK},
+      {1000, 1000, DIC_OK},        {1, 1000, DIC_ERR_FORMAT},
+      {153, 1000, DIC_ERR_FORMAT}, {1001, 0, DIC_ERR_FORMAT},
+      {500, 999, DIC_OK},          {0xFFFFFFFF, 1000, DIC_ERR_FORMAT},
+      {500, 1001, DIC_ERR_FORMAT}, {500, 0x80000000, DIC_ERR_FORMAT},
   };
   for (const auto& c : cases) {
     Bytes bytes = padded(sample_header(), kFileLength);
@@ -77,11 +71,6 @@ TEST(DicHeaderOpen, ChecksSizesAgainstTheFile) {
     put_number(bytes, 127, 4, c.file_size);
     EXPECT_EQ(open_result(bytes), c.result) << c.index_offset << " " << c.file_size;
   }
-}
-
-TEST(DicHeaderOpen, RefusesOlderGenerations) {
-  EXPECT_EQ(open_result(padded(first_generation_header(), kFileLength)), DIC_ERR_FORMAT);
-  EXPECT_EQ(open_result(padded(second_generation_header(), kFileLength)), DIC_ERR_FORMAT);
 }
 
 TEST(DicHeaderOpen, ReportsAMissingFileAndTheSystemsReason) {
@@ -98,16 +87,6 @@ TEST(DicHeaderOpen, WithoutABufferOnlyTestsThatTheFileOpens) {
   std::int32_t time = 7;
   EXPECT_EQ(DicHeaderOpen(no_dictionary.path(), nullptr, &time), DIC_OK);
   EXPECT_EQ(time, 7);
-}
-
-TEST(DicHeaderOpen, GivesTheModificationTimeOfAValidFile) {
-  const ScratchFile file(padded(sample_header(), kFileLength));
-  ZCFileStatus status;
-  ASSERT_TRUE(ZCFile().GetStatus(file.path(), status));
-  DicHeader header;
-  std::int32_t time = 0;
-  ASSERT_EQ(DicHeaderOpen(file.path(), &header, &time), DIC_OK);
-  EXPECT_EQ(time, status.modification_time.GetTime());
 }
 
 TEST(DicHeaderSetProperties, ChangesOnlyTheGivenFields) {
@@ -187,31 +166,23 @@ TEST(DicPassword, AByteThatScramblesToZeroEndsIt) {
 }
 
 TEST(DicChecksum, SumsAllBytesButTheLastTwo) {
-  Bytes bytes(154, 0xFF);
   DicHeader header;
-  const auto sum_of = [&] {
+  const auto sum_of = [&](const Bytes& bytes) {
     std::memcpy(&header, bytes.data(), sizeof header);
     return kz_dict_set_csd(&header);
   };
-  EXPECT_EQ(sum_of(), 152 * 255);
-  bytes[152] = bytes[153] = 0;
-  EXPECT_EQ(sum_of(), 152 * 255);
-  bytes[151] = 0;
-  EXPECT_EQ(sum_of(), 151 * 255);
-
+  Bytes bytes(154, 0xFF);
+  EXPECT_EQ(sum_of(bytes), 152 * 255);
+  bytes[151] = bytes[152] = bytes[153] = 0;
+  EXPECT_EQ(sum_of(bytes), 151 * 255);
   // The field is summed too, so a writer looks for a value that agrees with itself.
   bytes.assign(154, 0);
-  EXPECT_EQ(sum_of(), 0);
-  EXPECT_EQ(kz_dict_chk_csd(&header), 1);
   bytes[0] = 0xFF;
-  bytes[140] = 0x01;
-  EXPECT_EQ(sum_of(), 0x100);
-  EXPECT_EQ(kz_dict_chk_csd(&header), 1);
-  bytes[139] = 0x01;
-  EXPECT_EQ(sum_of(), 0x101);
+  bytes[139] = bytes[140] = 0x01;
+  EXPECT_EQ(sum_of(bytes), 0x101);
   EXPECT_EQ(kz_dict_chk_csd(&header), 1);
   bytes[0] = 0;
-  sum_of();
+  sum_of(bytes);
   EXPECT_EQ(kz_dict_chk_csd(&header), 0);
 }
 

@@ -32,12 +32,10 @@ int below(Random& random, int limit) {
   return static_cast<int>(random() % static_cast<unsigned>(limit));
 }
 
-struct Shape {
-  const char* language;
-  char type;
-  int depth, alphabet_size, version, packing;
-  bool fresh_groups;
-};
+constexpr int kLineFeeds = 60000;
+
+// A file without records.
+using Shape = DictionaryFile;
 
 std::string random_word(Random& random, const Shape& shape) {
   // Few different letters make for shared beginnings and full groups.
@@ -69,15 +67,8 @@ std::string random_body(Random& random, const DictionaryFile& file) {
 }
 
 DictionaryFile random_dictionary(Random& random, const Shape& shape, int size) {
-  DictionaryFile file;
-  file.language = shape.language;
-  file.type = shape.type;
-  file.depth = shape.depth;
-  file.alphabet_size = shape.alphabet_size;
-  file.version = shape.version;
-  file.packing = shape.packing;
-  file.fresh_groups = shape.fresh_groups;
-  if (shape.packing >= 2 && shape.type != 'S') {
+  DictionaryFile file = shape;
+  if (shape.packing >= 2) {
     file.shared = std::string("shared text\0next one\0last, without its zero", 42);
   }
   for (int i = 0; i < size; ++i) {
@@ -103,110 +94,74 @@ std::vector<Shape> shapes() {
   return all;
 }
 
-std::vector<std::string> words_to_search(Random& random, const DictionaryFile& file,
-                                         const Shape& shape) {
+std::vector<std::string> words_to_search(Random& random, const DictionaryFile& file) {
   std::vector<std::string> words;
   for (int i = 0; i < 60; ++i) {
     const std::string& word = file.records[random() % file.records.size()].word;
     words.push_back(word);
     words.push_back(word.substr(0, 1 + random() % word.size()));
-    words.push_back(random_word(random, shape));
+    words.push_back(random_word(random, file));
   }
   words.insert(words.end(), {"A", "!", "*", "", words[0] + "*", words[0] + "*N", words[0] + "\n"});
   return words;
 }
 
-::testing::AssertionResult same_text(const char* found,
-                                     const std::optional<std::string>& expected) {
-  if (found == nullptr && !expected) return ::testing::AssertionSuccess();
-  if (found != nullptr && expected && std::string(expected->c_str()) == found)
-    return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure() << "found " << (found ? found : "nothing") << ", expected "
-                                       << expected.value_or("nothing");
+// The text up to its first zero.
+std::string text_of(const std::optional<std::string>& text) {
+  return text ? text->c_str() : "nothing";
 }
 
 // Asks the same of the library and the slow reader; stops at the first difference.
-bool searches_agree(CDic* dictionary, SlowDictionary& slow, const std::vector<std::string>& words,
-                    const std::string& where) {
+void compare_searches(CDic* dictionary, SlowDictionary& slow,
+                      const std::vector<std::string>& words) {
   for (const int mode : {0, 1, 2, -1, 0}) {
     for (const std::string& word : words) {
-      const auto search_mode = static_cast<std::int16_t>(mode);
-      const char* found = DicFind(dictionary, word.c_str(), search_mode, 2);
+      const char* found = DicFind(dictionary, word.c_str(), static_cast<std::int16_t>(mode), 2);
       auto expected = slow.find(word.c_str(), mode);
       for (int step = 0; step < 4; ++step) {
-        const auto same = same_text(found, expected);
-        EXPECT_TRUE(same) << where << ", word '" << word << "', search mode " << mode << ", step "
-                          << step;
-        if (!same) return false;
+        ASSERT_EQ(found != nullptr ? found : "nothing", text_of(expected))
+            << "word '" << word << "', search mode " << mode << ", step " << step;
         if (found == nullptr) break;
         found = DicFindNext(dictionary, 2);
         expected = slow.next();
       }
     }
   }
-  return true;
 }
 
-std::string name_of(const Shape& shape) {
-  return std::string(shape.language) + ' ' + shape.type + " depth " + std::to_string(shape.depth) +
-         " packing " + std::to_string(shape.packing) + (shape.fresh_groups ? "" : " running");
+std::string name_of(const Shape& shape, int mode) {
+  return shape.language + ' ' + shape.type + " depth " + std::to_string(shape.depth) + " packing " +
+         std::to_string(shape.packing) + (shape.fresh_groups ? "" : " running") + " mode " +
+         std::to_string(mode);
 }
 
 TEST(Lookup, EveryModeFindsWhatIsInTheFile) {
   const TempDir dir;
   Random random(20261122);
   for (const Shape& shape : shapes()) {
-    for (const int size : {1, 30, 400}) {
+    for (const int size : {1, 30, 1500}) {
       DictionaryFile file = random_dictionary(random, shape, size);
       SlowDictionary slow(file.write(dir.file("d.dic")));
-      const std::vector<std::string> words = words_to_search(random, file, shape);
+      const std::vector<std::string> words = words_to_search(random, file);
       for (const auto mode : std::initializer_list<std::int16_t>{0, 2, 4}) {
         const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), mode));
-        ASSERT_NE(dictionary, nullptr) << name_of(shape) << ": " << kz_dict_dic_errno();
+        SCOPED_TRACE(name_of(shape, mode));
+        ASSERT_NE(dictionary, nullptr) << kz_dict_dic_errno();
         LoadAllOffsets(dictionary.get());
-        const std::string where = name_of(shape) + ", mode " + std::to_string(mode);
-        ASSERT_TRUE(searches_agree(dictionary.get(), slow, words, where));
+        ASSERT_NO_FATAL_FAILURE(compare_searches(dictionary.get(), slow, words));
+
+        // No word finds the first record, and the walk finds them all.
+        const char* found = DicFind(dictionary.get(), nullptr, 0, 2);
+        auto expected = slow.find(nullptr, 0);
+        std::size_t count = 0;
+        for (; found != nullptr; ++count) {
+          ASSERT_EQ(found, text_of(expected));
+          found = DicFindNext(dictionary.get(), 2);
+          expected = slow.next();
+        }
+        ASSERT_EQ(count, file.records.size());
       }
     }
-  }
-}
-
-TEST(Lookup, EveryHeadwordIsFoundByExactSearch) {
-  const TempDir dir;
-  Random random(7);
-  for (const Shape& shape : shapes()) {
-    // Word lists have no '*'; front coding that runs on over groups hides words at their starts.
-    if (shape.type == 'S' || !shape.fresh_groups) continue;
-    DictionaryFile file = random_dictionary(random, shape, 300);
-    file.write(dir.file("d.dic"));
-    const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), 0));
-    for (const Record& record : file.records) {
-      const char* found = DicFind(dictionary.get(), record.word.c_str(), 0, 1);
-      ASSERT_NE(found, nullptr) << name_of(shape) << ", word '" << record.word << "'";
-      ASSERT_EQ(std::string(found).substr(0, record.word.size() + 1), record.word + '*');
-    }
-  }
-}
-
-TEST(Lookup, NoWordFindsTheFirstRecordAndTheWalkFindsThemAll) {
-  const TempDir dir;
-  Random random(11);
-  for (const Shape& shape : shapes()) {
-    DictionaryFile file = random_dictionary(random, shape, 5000);
-    SlowDictionary slow(file.write(dir.file("d.dic")));
-    const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), 0));
-    ASSERT_NE(dictionary, nullptr) << name_of(shape) << ": " << kz_dict_dic_errno();
-    const char* found = DicFind(dictionary.get(), nullptr, 0, 2);
-    auto expected = slow.find(nullptr, 0);
-    std::size_t count = 0;
-    for (; found != nullptr; ++count) {
-      ASSERT_TRUE(same_text(found, expected)) << name_of(shape);
-      found = DicFindNext(dictionary.get(), 2);
-      expected = slow.next();
-    }
-    EXPECT_EQ(count, file.records.size()) << name_of(shape);
-    EXPECT_FALSE(expected.has_value());
-    EXPECT_EQ(DicFindNext(dictionary.get(), 2), nullptr);
   }
 }
 
@@ -224,12 +179,12 @@ TEST(Lookup, DamagedRecordsAndTablesAreReadTheSameWay) {
       }
       dir.write("d.dic", bytes);
       SlowDictionary slow(bytes);
-      const std::vector<std::string> words = words_to_search(random, file, shape);
+      const std::vector<std::string> words = words_to_search(random, file);
       for (const auto mode : std::initializer_list<std::int16_t>{0, 4}) {
         const Dictionary dictionary(DicOpen(dir.file("d.dic").c_str(), mode));
+        SCOPED_TRACE(name_of(shape, mode));
         ASSERT_NE(dictionary, nullptr);
-        const std::string where = name_of(shape) + ", damaged, mode " + std::to_string(mode);
-        ASSERT_TRUE(searches_agree(dictionary.get(), slow, words, where));
+        ASSERT_NO_FATAL_FAILURE(compare_searches(dictionary.get(), slow, words));
       }
     }
   }
@@ -265,7 +220,7 @@ TEST(Lookup, AnyDamageToHeaderOrLengthIsRefusedOrSurvived) {
     for (std::size_t i = 0; i < 154; ++i) {
       // Label, title, password and property, time and checksum say nothing about the records.
       const bool carried = (i >= 44 && i < 56) || (i >= 63 && i < 113) || (i >= 131 && i < 141);
-      for (const int value : {0, 1, 0x7F, 0x80, 0xFF}) {
+      for (const int value : {0, 0x7F, 0xFF}) {
         std::string bytes = good;
         bytes[i] = static_cast<char>(value);
         const auto found = answers(bytes);
@@ -278,26 +233,74 @@ TEST(Lookup, AnyDamageToHeaderOrLengthIsRefusedOrSurvived) {
   }
 }
 
-TEST(Lookup, OverlappingBlocksTakeNoMoreMemoryThanAFewTimesTheFile) {
-  // Positions that fall from cell to cell: most blocks reach far behind their neighbours.
-  constexpr std::size_t kRecords = 60000;
-  DictionaryFile file;
-  file.language = "DERU";
-  file.alphabet_size = 43;
-  file.depth = 3;
-  std::string bytes = file.bytes().substr(0, 154) + std::string(kRecords, '\n');
+// A file of line feeds with these positions in the cells of its table, or, at depth 5, with
+// ascending keys of two letters.
+std::string file_of_cells(const Shape& shape, const std::vector<std::int32_t>& cells) {
+  std::string bytes = Shape(shape).bytes().substr(0, 154) + std::string(kLineFeeds, '\n');
   const auto put = [&bytes](std::size_t at, std::size_t value) {
+    bytes.resize(std::max(bytes.size(), at + 4));
     for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> 8 * i);
   };
   put(119, bytes.size());
-  constexpr std::size_t kCells = 43 * 44 * 44;
-  bytes.resize(bytes.size() + kCells * 4);
-  for (std::size_t i = 0; i < kCells; ++i) {
-    put(154 + kRecords + 4 * i, 154 + (kCells - i) % kRecords);
+  put(146, cells.size());
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    if (shape.depth == 5) put(bytes.size(), (8 + i / 32) << 24 | (8 + i % 32) << 18);
+    put(bytes.size(), static_cast<std::size_t>(cells[i]));
+  }
+  return bytes;
+}
+
+std::size_t cell_count(const Shape& shape) {
+  const auto n = static_cast<std::size_t>(shape.alphabet_size);
+  return shape.depth == 5 ? 200 : n * (n + 1) * (shape.depth == 3 ? n + 1 : 1);
+}
+
+TEST(Lookup, BlocksEndAtTheNextGroupWhateverThePositions) {
+  const TempDir dir;
+  Random random(31);
+  for (const Shape& shape : {Shape{"ENRU", 'C', 2, 26}, Shape{"DERU", 'C', 3, 43},
+                             Shape{"RUEN", 'C', 3, 32}, Shape{"RUEN", 'C', 5, 32}}) {
+    for (const int used : {2, 50, 700}) {  // of 1,000
+      for (const bool sorted : {true, false}) {
+        std::vector<std::int32_t> cells(cell_count(shape), -1);
+        std::int32_t last = 154;
+        for (std::int32_t& cell : cells) {
+          if (shape.depth != 5 && below(random, 1000) >= used) continue;
+          last += below(random, 4);
+          cell = sorted ? last : below(random, kLineFeeds + 2000) - (shape.depth == 5 ? 0 : 1000);
+        }
+        const std::string bytes = file_of_cells(shape, cells);
+        const Dictionary dictionary(DicOpen(dir.write("d.dic", bytes).c_str(), 0));
+        ASSERT_NE(dictionary, nullptr);
+        const SlowDictionary slow(bytes);
+        const std::string letters = alphabet(shape.alphabet_size) + '-';
+        for (int i = 0; i < 150; ++i) {
+          std::string word(1, i % 10 == 0 ? '7' : letters[random() % (letters.size() - 1)]);
+          for (int more = i % 3; more > 0; --more) word += letters[random() % letters.size()];
+          const auto& [position, size] = slow.place(word);
+          ASSERT_EQ(DicOffsetX(dictionary.get(), word.c_str()), position) << word;
+          ASSERT_EQ(DicSizeX(dictionary.get(), word.c_str()), size) << word;
+        }
+        ZCFile list;
+        ASSERT_TRUE(list.Open(dir.file("list").c_str(), 0x1002));
+        PrintAllOffsets(dictionary.get(), &list);
+        list.Close();
+        ASSERT_EQ(dir.read("list"), slow.listing());
+      }
+    }
+  }
+}
+
+TEST(Lookup, OverlappingBlocksTakeNoMoreMemoryThanAFewTimesTheFile) {
+  // Positions that fall from cell to cell: most blocks reach far behind their neighbours.
+  const Shape shape{"DERU", 'C', 3, 43};
+  std::vector<std::int32_t> cells(cell_count(shape));
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    cells[i] = 154 + static_cast<std::int32_t>((cells.size() - i) % kLineFeeds);
   }
   const TempDir dir;
-  const std::string path = dir.file("d.dic");
-  std::ofstream(path, std::ios::binary) << bytes;
+  const std::string bytes = file_of_cells(shape, cells);
+  const std::string path = dir.write("d.dic", bytes);
   const Dictionary dictionary(DicOpen(path.c_str(), 2));
   ASSERT_NE(dictionary, nullptr);
   LoadAllOffsets(dictionary.get());
@@ -544,44 +547,22 @@ TEST_F(SmallDictionary, AccessorsAnswerForMissingHandles) {
   EXPECT_EQ(DicGetId(dictionary), 200);
   EXPECT_EQ(DicGetMode(dictionary), 4);
   EXPECT_EQ(DicGetPath(dictionary), path());
-  EXPECT_EQ(DicGetId(nullptr), -1);
-  EXPECT_EQ(DicGetMode(nullptr), 0);
-  EXPECT_EQ(DicGetPath(nullptr), nullptr);
-  EXPECT_EQ(DicGetEntryHandler(nullptr), nullptr);
-  EXPECT_EQ(DicFind(nullptr, "word", 0, 2), nullptr);
-  EXPECT_EQ(DicFindNext(nullptr, 2), nullptr);
-  EXPECT_EQ(DicGetFound(nullptr, nullptr, 2), nullptr);
-  DicClose(nullptr);
-  LoadAllOffsets(nullptr);
-
   EXPECT_EQ(DicOffsetX(dictionary, "word"), 154);
   EXPECT_EQ(DicSizeX(dictionary, "word"), 10);
-  EXPECT_EQ(DicSizeX(dictionary, "Word"), -1);
-  EXPECT_EQ(DicLetterOffsetX(dictionary, 'w'), -1);
-  EXPECT_EQ(DicLetterNumberX(dictionary, 0), 0);
-}
-
-TEST(DictionaryGroups, PrintTheirPlaces) {
-  const TempDir directory;
-  DictionaryFile file;
-  file.records = {{"ad", "Nx"}, {"ah", "Ny"}, {"b", "Nz"}};
-  const std::string path = directory.file("groups.dic");
-  file.write(path);
-  const Dictionary dictionary(DicOpen(path.c_str(), 0));
-  ASSERT_NE(dictionary, nullptr);
-  ZCFile list;
-  ASSERT_TRUE(list.Open(directory.file("groups.txt").c_str(), 0x1002));
-  PrintAllOffsets(dictionary.get(), &list);
-  list.Close();
-  // Six bytes each behind the header of 154; two line feeds end the records. A letter's head leads
-  // to its first group.
-  EXPECT_EQ(directory.read("groups.txt"),
-            "*154     'a  ' 6      \n"
-            "*154     'ad ' 6      \n"
-            "*160     'ah ' 6      \n"
-            "*166     'b  ' 7      \n");
+  EXPECT_EQ(DicOffsetX(nullptr, "word") + DicSizeX(nullptr, "word") + DicSizeX(dictionary, "Word") +
+                DicLetterOffsetX(dictionary, 'w') + DicLetterNumberX(dictionary, 'w') +
+                DicGetId(nullptr),
+            -6);
+  EXPECT_EQ(DicLetterNumberX(dictionary, 0) + DicGetMode(nullptr), 0);
+  for (const char* text : {DicGetPath(nullptr), DicFind(nullptr, "word", 0, 2),
+                           DicFindNext(nullptr, 2), DicGetFound(nullptr, nullptr, 2)}) {
+    EXPECT_EQ(text, nullptr);
+  }
+  EXPECT_EQ(DicGetEntryHandler(nullptr), nullptr);
+  DicClose(nullptr);
+  LoadAllOffsets(nullptr);
   PrintAllOffsets(nullptr, nullptr);
-  PrintAllOffsets(dictionary.get(), nullptr);
+  PrintAllOffsets(dictionary, nullptr);
 }
 
 }  // namespace

@@ -1,16 +1,12 @@
-// A file of its own for one test, removed at its end.
+// A file of its own for one test, and headers to put there.
 #ifndef KZ_TESTS_DICTIONARY_SCRATCH_FILE_H
 #define KZ_TESTS_DICTIONARY_SCRATCH_FILE_H
 
-#include <gtest/gtest.h>
-
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <random>
 #include <string>
 #include <vector>
+
+#include "tests/support/temp_dir.h"
 
 namespace kz::test {
 
@@ -18,33 +14,20 @@ using Bytes = std::vector<std::uint8_t>;
 
 class ScratchFile {
  public:
-  ScratchFile() {
-    std::random_device random;
-    path_ = testing::TempDir() + "kz_" + std::to_string(random()) + std::to_string(random());
-  }
-  explicit ScratchFile(const Bytes& bytes) : ScratchFile() { write(bytes); }
-  ScratchFile(const ScratchFile&) = delete;
-  ScratchFile& operator=(const ScratchFile&) = delete;
-  ~ScratchFile() {
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
-  }
-
+  ScratchFile() = default;
+  explicit ScratchFile(const Bytes& bytes) { write(bytes); }
   const char* path() const { return path_.c_str(); }
-
   void write(const Bytes& bytes) const {
-    std::ofstream out(path_, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(bytes.data()),
-              static_cast<std::streamsize>(bytes.size()));
+    dir_.write("file", std::string(bytes.begin(), bytes.end()));
   }
-
   Bytes read() const {
-    std::ifstream in(path_, std::ios::binary);
-    return Bytes(std::istreambuf_iterator<char>(in), {});
+    const std::string bytes = dir_.read("file");
+    return {bytes.begin(), bytes.end()};
   }
 
  private:
-  std::string path_;
+  TempDir dir_;
+  std::string path_ = dir_.file("file");
 };
 
 inline void put_text(Bytes& bytes, std::size_t at, const std::string& text) {

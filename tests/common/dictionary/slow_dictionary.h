@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <utility>
@@ -29,7 +30,7 @@ class SlowDictionary {
     data_ = number(123, 4);
     packing_ = b_[141];
     count_ = number(146, 4);
-    if (depth_ != 5) list_cells();
+    list_groups();
     packed_ = version_ >= 539 && (packing_ == 1 || packing_ == 3);
     if (type_ != 'S' && version_ > 538 && (packing_ == 2 || packing_ == 3)) {
       shared_ = b_.substr(static_cast<std::size_t>(number(142, 4)),
@@ -44,9 +45,7 @@ class SlowDictionary {
     std::int64_t size = index_ - data_;
     if (word != nullptr) {
       if (key.empty() || key.size() > 77) return std::nullopt;
-      if (depth_ == 5 ? !key_block(key, mode, from, size) : !table_block(key, mode, from, size)) {
-        return std::nullopt;
-      }
+      if (!block(key, mode, from, size)) return std::nullopt;
       if (mode == -1) size = index_ - from;
       if (size < 1) size = 2048;
     }
@@ -57,12 +56,40 @@ class SlowDictionary {
                    : find_plain(key, word == nullptr, mode == 0);
   }
 
+  // The place of the word's block, and its size; -1 when it has none.
+  std::pair<std::int64_t, std::int64_t> place(const std::string& word) const {
+    std::int64_t from = 0, size = 0;
+    if (!block(word, 0, from, size)) return {-1, -1};
+    return {from, std::max<std::int64_t>(size, 0)};
+  }
+
+  // A line for each group of the index: position, letters, size.
+  std::string listing() const {
+    std::string text;
+    for (auto group = groups_.begin(); group != groups_.end(); ++group) {
+      if (!points_inside(group->position)) continue;
+      const std::int64_t size = std::max<std::int64_t>(end_of(group, false) - group->position, 0);
+      char line[64];
+      std::snprintf(line, sizeof line, "*%-7d '%s' %-7d\n", static_cast<int>(group->position),
+                    group->letters.c_str(), static_cast<int>(size));
+      text += line;
+    }
+    return text;
+  }
+
   std::optional<std::string> next() {
     if (!alive_) return std::nullopt;
     return packed_ ? next_packed() : next_plain();
   }
 
  private:
+  struct Group {
+    int i, j, k;
+    std::int64_t position;
+    std::string letters;
+    std::uint32_t key;
+  };
+
   std::int64_t number(std::size_t at, std::size_t width) const {
     std::uint32_t value = 0;
     for (std::size_t i = 0; i < width; ++i) {
@@ -96,77 +123,80 @@ class SlowDictionary {
   }
   bool points_inside(std::int64_t position) const { return position >= 124 && position <= index_; }
 
-  bool table_block(const std::string& word, int mode, std::int64_t& from,
-                   std::int64_t& size) const {
-    char prefix[3] = {};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(depth_); ++i) {
-      if (ends(word, i)) {
-        if (i == 0) return false;
-        break;
-      }
-      const char c = word[i];
-      if (is_letter(c)) {
-        prefix[i] = c;
-      } else if (i == 0 ? !is_digit(c) : !is_mark(c)) {
-        return false;
-      }
+  // Up to five characters that the index knows a word by; none when it cannot be looked up.
+  std::optional<std::string> prefix(const std::string& word) const {
+    std::string result;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(depth_) && !ends(word, i); ++i) {
+      const bool letter = is_letter(word[i]);
+      if (!letter && (i == 0 ? !is_digit(word[i]) : !is_mark(word[i]))) return std::nullopt;
+      result += letter || depth_ == 5 ? word[i] : '\0';
     }
-    const auto slot_or_n = [&](char c) { return c == 0 || is_mark(c) ? n_ : slot(c, n_); };
-    int i = slot_or_n(prefix[0]), j = slot_or_n(prefix[1]), k = slot_or_n(prefix[2]);
-    if (i == n_) {
-      for (i = 0; i < n_ && cell(i, n_, n_) == -1;) ++i;
-      if (i == n_) return false;
-      j = k = n_;
-    }
-    from = cell(i, j, k);
-    if (!points_inside(from)) return false;
-    const bool wide = depth_ == 3 && mode == 2 && prefix[2] == 0;
-    size = next_position(i, j, k, from, wide) - from;
+    if (depth_ != 5 && result.empty()) return std::nullopt;
+    return result;
+  }
+
+  // The block of a word. False when it has none.
+  bool block(const std::string& word, int mode, std::int64_t& from, std::int64_t& size) const {
+    const auto letters = prefix(word);
+    if (!letters) return false;
+    const auto letter = [&](std::size_t i) { return i < letters->size() ? (*letters)[i] : '\0'; };
+    const int i = slot(letter(0), n_), j = slot(letter(1), n_), k = slot(letter(2), n_);
+    const std::uint32_t key = five_character_key(*letters);
+    const auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) {
+      if (depth_ == 5) return g.key == key;
+      // A digit leads to the head of the first row in use.
+      if (i == n_) return g.j == n_ && g.k == n_;
+      return g.i == i && g.j == j && (depth_ == 2 || g.k == k);
+    });
+    if (group == groups_.end() || !points_inside(group->position)) return false;
+    const bool is_short = depth_ == 5 ? letters->size() < 5 : depth_ == 3 && letter(2) == 0;
+    from = group->position;
+    size = end_of(group, is_short && (mode == 2 || (mode > 2 && depth_ == 5))) - from;
     return true;
   }
 
-  // The first greater position behind the cell, in index order: of each group the head first.
-  std::int64_t next_position(int i, int j, int k, std::int64_t from, bool pair_heads) const {
-    bool behind = false;
-    const bool row_head = depth_ == 3 && j == n_ && k == n_;
-    for (const Cell& c : cells_) {
-      const bool counts = behind && (!row_head || c.i > i) && (!pair_heads || c.k == n_);
-      if (counts && c.position > from) return std::min(c.position, index_);
-      if (c.i == i && c.j == j && (depth_ == 2 || c.k == k)) behind = true;
+  // The first greater position behind the group; behind the row for the head of one, at the next
+  // pair when it is widened.
+  template <typename At>
+  std::int64_t end_of(At group, bool wide) const {
+    if (depth_ == 5) {
+      const bool last = wide || group + 1 == groups_.end();
+      return last ? index_ : std::min(group[1].position, index_);
+    }
+    const bool row_head = depth_ == 3 && group->j == n_ && group->k == n_;
+    for (auto next = group + 1; next != groups_.end(); ++next) {
+      const bool counts = (!row_head || next->i > group->i) && (!wide || next->k == n_);
+      if (counts && next->position > group->position) return std::min(next->position, index_);
     }
     return index_;
   }
 
-  // The cells that are not empty, in index order.
-  void list_cells() {
+  // The groups that are not empty, in index order.
+  void list_groups() {
+    for (std::int64_t r = 0; depth_ == 5 && r < count_; ++r) {
+      const auto at = static_cast<std::size_t>(index_ + r * 8);
+      std::string letters;
+      for (const int shift : {24, 18, 12}) {
+        const auto code = static_cast<std::size_t>(number(at, 4) >> shift & 63);
+        letters += code >= 8 ? alphabet(32)[code - 8] : "  ')-./`"[code];
+      }
+      groups_.push_back(
+          {0, 0, 0, number(at + 4, 4), letters, static_cast<std::uint32_t>(number(at, 4))});
+    }
+    if (depth_ == 5) return;
     std::vector<int> order = {n_};
     for (int slot = 0; slot < n_; ++slot) order.push_back(slot);
+    const std::string letters = alphabet(n_) + ' ';
     for (int i = 0; i < n_; ++i) {
       for (const int j : order) {
         for (const int k : order) {
-          if (depth_ == 2 && k != n_) break;
-          if (cell(i, j, k) != -1) cells_.push_back({i, j, k, cell(i, j, k)});
+          if ((depth_ == 2 && k != n_) || cell(i, j, k) == -1) continue;
+          std::string name;
+          for (const int slot : {i, j, k}) name += letters[static_cast<std::size_t>(slot)];
+          groups_.push_back({i, j, k, cell(i, j, k), name, 0});
         }
       }
     }
-  }
-
-  bool key_block(const std::string& word, int mode, std::int64_t& from, std::int64_t& size) const {
-    std::string prefix;
-    for (std::size_t i = 0; i < 5 && !ends(word, i); ++i) {
-      if (!is_letter(word[i]) && (i == 0 ? !is_digit(word[i]) : !is_mark(word[i]))) return false;
-      prefix += word[i];
-    }
-    for (std::int64_t r = 0; r < count_; ++r) {
-      const auto at = static_cast<std::size_t>(index_ + r * 8);
-      if (number(at, 4) != five_character_key(prefix)) continue;
-      from = number(at + 4, 4);
-      if (!points_inside(from)) return false;
-      const bool to_end = r + 1 == count_ || (mode >= 2 && prefix.size() <= 4);
-      size = (to_end ? index_ : std::min(number(at + 12, 4), index_)) - from;
-      return true;
-    }
-    return false;
   }
 
   std::optional<std::string> find_plain(const std::string& key, bool first, bool exact) {
@@ -249,13 +279,8 @@ class SlowDictionary {
     return entry.substr(0, star + 2) + shared_.substr(from, shared_.find('\0', from) - from);
   }
 
-  struct Cell {
-    int i, j, k;
-    std::int64_t position;
-  };
-
   std::string b_;
-  std::vector<Cell> cells_;
+  std::vector<Group> groups_;
   char language_, type_;
   int version_, depth_, n_, packing_;
   std::int64_t index_, data_, count_;
