@@ -18,7 +18,7 @@ struct ModelFile {
   char type = 'C';
   bool exists = true;
   int time = 0;
-  std::set<std::string> words;
+  std::set<std::string> words{};
 
   std::string name() const {
     std::string result = path.substr(path.rfind('/') + 1);
