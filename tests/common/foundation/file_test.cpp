@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstring>
 #include <utility>
-#include <vector>
 
 #include "tests/common/foundation/file_fixture.h"
 
@@ -21,31 +20,20 @@ std::uintptr_t slot(Member member) {
   return (code - 1) / sizeof(void*);
 }
 
+template <typename... Members>
+void expect_slots_from_2_on(Members... members) {  // two destructors come first
+  std::uintptr_t expected = 2;
+  for (const std::uintptr_t found : {slot(members)...}) EXPECT_EQ(found, expected++);
+}
+
 TEST(FileLayout, VirtualFunctionsStandInTheirSlots) {
-  using Line = char* (ZCFile::*)(ZCString&);
-  using Buffer = char* (ZCFile::*)(char*, unsigned int);
-  const std::vector<std::uintptr_t> slots = {slot(&ZCFile::GetPosition),
-                                             slot(&ZCFile::GetFileName),
-                                             slot(&ZCFile::GetFileTitle),
-                                             slot(&ZCFile::GetFilePath),
-                                             slot(&ZCFile::SetFilePath),
-                                             slot(&ZCFile::Open),
-                                             slot(&ZCFile::Duplicate),
-                                             slot(&ZCFile::Seek),
-                                             slot(&ZCFile::SetLength),
-                                             slot(&ZCFile::GetLength),
-                                             slot(&ZCFile::Read),
-                                             slot(&ZCFile::Write),
-                                             slot(&ZCFile::WriteString),
-                                             slot(static_cast<Line>(&ZCFile::ReadString)),
-                                             slot(static_cast<Buffer>(&ZCFile::ReadString)),
-                                             slot(&ZCFile::LockRange),
-                                             slot(&ZCFile::UnlockRange),
-                                             slot(&ZCFile::Abort),
-                                             slot(&ZCFile::Flush),
-                                             slot(&ZCFile::Close)};
-  for (std::size_t i = 0; i < slots.size(); ++i)
-    EXPECT_EQ(slots[i], i + 2);  // two destructors come first
+  expect_slots_from_2_on(
+      &ZCFile::GetPosition, &ZCFile::GetFileName, &ZCFile::GetFileTitle, &ZCFile::GetFilePath,
+      &ZCFile::SetFilePath, &ZCFile::Open, &ZCFile::Duplicate, &ZCFile::Seek, &ZCFile::SetLength,
+      &ZCFile::GetLength, &ZCFile::Read, &ZCFile::Write, &ZCFile::WriteString,
+      static_cast<char* (ZCFile::*)(ZCString&)>(&ZCFile::ReadString),
+      static_cast<char* (ZCFile::*)(char*, unsigned int)>(&ZCFile::ReadString), &ZCFile::LockRange,
+      &ZCFile::UnlockRange, &ZCFile::Abort, &ZCFile::Flush, &ZCFile::Close);
 }
 
 TEST_F(FileTest, CreationFlagsDecideOverExistingAndMissingFiles) {

@@ -1,16 +1,12 @@
-// ZCString: sharing, locking, tags and buffers, against a plain model.
+// ZCString: sharing, locking, tags and buffers; searches and comparisons.
 #include "kz/string.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <cstring>
-#include <memory>
-#include <random>
 #include <string>
-#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -26,244 +22,139 @@ std::string value(const ZCString& text) {
   return {static_cast<const char*>(text), static_cast<std::size_t>(text.GetLength())};
 }
 
-// The slow and obvious string: a shared record, none for a string without a buffer.
-struct Buffer {
-  std::string text;
-  int room = 0;
-  int tag = 0;
-  bool locked = false;
-};
-using Model = std::shared_ptr<Buffer>;
-
-int size(const Model& model) { return model ? static_cast<int>(model->text.size()) : 0; }
-std::string text(const Model& model) { return model ? model->text : ""; }
-
-Model fresh(const std::string& text, int room = 0) {
-  room = std::max(room, static_cast<int>(text.size()));
-  return room == 0 ? nullptr : std::make_shared<Buffer>(Buffer{text, room});
+// The text, its room, tag and reference count.
+std::string state(const ZCString& text) {
+  return value(text) + ' ' + std::to_string(text.GetAllocLength()) + ' ' +
+         std::to_string(text.GetLanguage()) + ' ' + std::to_string(header(text).references);
 }
 
-bool holds(const Model& model, int length) {
-  return length <= (model ? model->room : 0) && model.use_count() < 2;
+ZCString tagged(const char* text, int tag) {
+  ZCString result(text);
+  result.SetLanguage(tag);
+  return result;
 }
-void unshare(Model& model) {
-  if (model.use_count() > 1) model = fresh(model->text);
-}
-void get_buffer(Model& model, int length) {
-  if (!holds(model, length)) model = fresh(text(model), length);
-}
-void write(Model& model, const std::string& text) {
-  get_buffer(model, static_cast<int>(text.size()));
-  if (model) model->text = text;
-}
-void assign(Model& model, const std::string& text) {
-  if (!holds(model, static_cast<int>(text.size()))) {
-    model = fresh(text);
-  } else if (model) {
-    model->text = text;
+
+TEST(String, SharesABufferUntilAChange) {
+  ZCString a("abc");
+  EXPECT_EQ(state(a), "abc 3 0 1");
+  ZCString b(a);
+  b.SetLanguage(1049);
+  EXPECT_EQ(state(a), "abc 3 1049 2") << "sharers see the tag";
+  a = b;
+  EXPECT_EQ(state(a), "abc 3 1049 2");
+  b.SetAt(0, 'x');
+  EXPECT_EQ(state(a), "abc 3 1049 1");
+  EXPECT_EQ(state(b), "xbc 3 0 1");
+  b = a;
+  EXPECT_EQ(state(b), "abc 3 1049 2");
+  b = "ab";
+  EXPECT_EQ(state(b), "ab 2 0 1");
+  a = "de";
+  EXPECT_EQ(state(a), "de 3 1049 1");
+  a = static_cast<const char*>(a) + 1;
+  EXPECT_EQ(state(a), "e 3 1049 1");
+  a = 'f';
+  EXPECT_EQ(state(a), "f 3 1049 1");
+  a = "more";
+  EXPECT_EQ(state(a), "more 4 0 1");
+  EXPECT_EQ(state(ZCString("a\0b", 3)), "a\0b 3 0 1"s);
+  EXPECT_EQ(state(ZCString('x', 3)), "xxx 3 0 1");
+  EXPECT_EQ(state(ZCString('x', -1)), " 0 0 -1");
+
+  for (const auto change :
+       {&ZCString::MakeReverse, &ZCString::TrimLeft, &ZCString::TrimRight, &ZCString::Trim,
+        &ZCString::Code, &ZCString::DeCode, &ZCString::MakeUpper, &ZCString::MakeLower}) {
+    ZCString sharer = tagged("abc", 1049);
+    ZCString text(sharer);
+    (text.*change)();
+    EXPECT_EQ(state(sharer), "abc 3 1049 1");
+    EXPECT_EQ(state(text).substr(3), " 3 0 1");
+    (sharer.*change)();
+    EXPECT_EQ(state(sharer).substr(3), " 3 1049 1") << "an own buffer stays";
   }
-}
-void append(Model& model, const std::string& tail) {
-  if (!tail.empty()) assign(model, text(model) + tail);
-}
-void set_tag(Model& model, int tag) {
-  if (!model && tag != 0) model = std::make_shared<Buffer>();
-  if (model) model->tag = tag;
-}
-Model copied(const Model& model) { return model && model->locked ? fresh(model->text) : model; }
-void assign_string(Model& model, const Model& source) {
-  if (model == source) return;
-  const int tag = source ? source->tag : 0;
-  if ((model && model->locked) || !source || source->locked) {
-    assign(model, text(source));
-  } else {
-    model = source;
-  }
-  set_tag(model, tag);
+  ZCString word("abc");
+  word.MakeReverse();
+  EXPECT_EQ(value(word), "cba");
 }
 
-// A handful of strings and their models, put through the same random operations.
-class ModelTest : public testing::Test {
- protected:
-  static constexpr std::size_t kStrings = 5;
-  ZCString strings[kStrings];
-  Model models[kStrings];
-  std::mt19937 random{20240611};
-
-  int pick(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
-  std::string random_text() {
-    std::string result;
-    for (int length = pick(9); length > 0; --length) result += "ab \t~\xFF\xE0"[pick(7)];
-    return result;
-  }
-  void step(ZCString& string, Model& model, const ZCString& other, const Model& other_model);
-  void change_buffer(ZCString& string, Model& model);
-  void change_text(ZCString& string, Model& model);
-  void expect_equal(std::size_t i);
-};
-
-void ModelTest::step(ZCString& string, Model& model, const ZCString& other,
-                     const Model& other_model) {
-  const std::string argument = random_text();
-  switch (pick(9)) {
-    case 0:
-      string = other;
-      assign_string(model, other_model);
-      break;
-    case 1: {
-      const std::array<ZCString, 1> copy{other};
-      EXPECT_EQ(value(copy[0]), text(other_model));
-      string = copy[0];
-      const Model model_copy = copied(other_model);
-      assign_string(model, model_copy);
-      break;
-    }
-    case 2:
-      string = argument.c_str();
-      assign(model, argument);
-      break;
-    case 3: {  // a text in the string's own buffer
-      const int from = pick(size(model) + 1);
-      string = static_cast<const char*>(string) + from;
-      const std::string tail = text(model).substr(static_cast<std::size_t>(from));
-      assign(model, tail.c_str());
-      break;
-    }
-    case 4:
-      string += other;
-      append(model, text(other_model));
-      break;
-    case 5:
-      string += static_cast<const char*>(string);
-      append(model, text(model).c_str());
-      break;
-    case 6:
-      string += '\0';
-      append(model, std::string(1, '\0'));
-      break;
-    case 7: change_buffer(string, model); break;
-    default: change_text(string, model); break;
-  }
+TEST(String, AppendsInPlaceOnlyWhereTheTextFits) {
+  ZCString a("ab");
+  a.GetBuffer(6);
+  a.SetLanguage(1033);
+  a += "cd";
+  a += 'e';
+  a += ZCString("f");
+  EXPECT_EQ(state(a), "abcdef 6 1033 1");
+  const ZCString b(a);
+  a += "";
+  a += ZCString();
+  EXPECT_EQ(state(a), "abcdef 6 1033 2");
+  a += 'g';
+  EXPECT_EQ(state(a), "abcdefg 7 0 1");
+  a += a;
+  EXPECT_EQ(state(a), "abcdefgabcdefg 14 0 1");
+  a.GetBuffer(16);
+  a += static_cast<const char*>(a) + 12;
+  EXPECT_EQ(state(a), "abcdefgabcdefgfg 16 0 1");
+  ZCString c("x");
+  c += '\0';
+  EXPECT_EQ(state(c), "x\0 2 0 1"s);
 }
 
-void ModelTest::change_buffer(ZCString& string, Model& model) {
-  switch (pick(8)) {
-    case 0:
-      string.LockBuffer();
-      get_buffer(model, 0);
-      if (model) model->locked = true;
-      break;
-    case 1:
-      string.UnlockBuffer();
-      if (model) model->locked = false;
-      break;
-    case 2: {
-      const int tag = pick(3) * 1033;
-      string.SetLanguage(tag);
-      set_tag(model, tag);
-      break;
-    }
-    case 3:
-      string.Empty();
-      if (model && model->locked) model->text.clear();
-      if (size(model) != 0) model = nullptr;
-      break;
-    case 4:
-      string.FreeExtra();
-      if (model && size(model) != model->room) model = fresh(model->text);
-      break;
-    case 5: {
-      const int room = pick(30);
-      string.GetBuffer(room);
-      get_buffer(model, room);
-      break;
-    }
-    case 6: {  // at the first NUL
-      string.ReleaseBuffer(-1);
-      unshare(model);
-      if (model) model->text = model->text.c_str();
-      break;
-    }
-    default: {
-      const std::string written = random_text();
-      std::memcpy(string.GetBuffer(12), written.data(), written.size());
-      string.ReleaseBuffer(static_cast<int>(written.size()));
-      get_buffer(model, 12);
-      model->text = written;
-    }
-  }
+TEST(String, BuffersAreAsLargeAsAskedFor) {
+  ZCString a = tagged("abc", 1033);
+  a.GetBuffer(2);
+  EXPECT_EQ(state(a), "abc 3 1033 1");
+  a.GetBuffer(9);
+  EXPECT_EQ(state(a), "abc 9 0 1");
+  a.SetLanguage(1033);
+  a.FreeExtra();
+  EXPECT_EQ(state(a), "abc 3 0 1");
+  std::memcpy(a.GetBufferSetLength(5), "xy\0zz", 5);
+  EXPECT_EQ(state(a), "xy\0zz 5 0 1"s);
+  EXPECT_EQ(a.GetAt(5), '\0');
+  a.ReleaseBuffer(-1);
+  EXPECT_EQ(state(a), "xy 5 0 1");
+  ZCString b(a);
+  b.ReleaseBuffer(1);
+  EXPECT_EQ(state(b), "x 2 0 1");
+  ZCString c(a);
+  c.GetBuffer(1);
+  EXPECT_EQ(state(c), "xy 2 0 1") << "not less than the text";
+  a.Empty();
+  EXPECT_EQ(state(a), " 0 0 -1");
+  a.GetBuffer(4);
+  a.Empty();
+  EXPECT_EQ(state(a), " 4 0 1") << "it was empty";
+  a.FreeExtra();
+  EXPECT_EQ(state(a), " 0 0 -1");
 }
 
-void ModelTest::change_text(ZCString& string, Model& model) {
-  const std::string argument = random_text();
-  switch (pick(6)) {
-    case 0:
-      if (size(model) == 0) return;
-      string.SetAt(size(model) - 1, 'x');
-      unshare(model);
-      model->text.back() = 'x';
-      break;
-    case 1:
-      string.MakeReverse();
-      unshare(model);
-      if (model) std::reverse(model->text.begin(), model->text.end());
-      break;
-    case 2: {
-      const int position = pick(size(model) + 3) - 1;
-      const ZCString result = string.Insert(argument.c_str(), position);
-      EXPECT_EQ(value(result), value(string));
-      if (position < 0 || position > size(model) || size(model) + argument.size() == 0) return;
-      write(model, text(model).insert(static_cast<std::size_t>(position), argument));
-      break;
-    }
-    case 3: {  // by the string's own text
-      if (size(model) > 30) return;
-      string.Replace("a", static_cast<const char*>(string));
-      std::string result;
-      for (const char c : text(model)) {
-        result += c == 'a' ? text(model).c_str() : std::string(1, c);
-      }
-      write(model, result);
-      break;
-    }
-    case 4:
-      string.Code();
-      string.DeCode();
-      unshare(model);
-      break;
-    default: {
-      ZCString left = string.Left(3);
-      EXPECT_EQ(value(left), text(model).substr(0, 3));
-      EXPECT_EQ(left.GetLanguage(), string.GetLanguage());
-      string = left.Mid(1);
-      EXPECT_EQ(left.Mid(1).GetLanguage(), 0);
-      assign_string(model, fresh(left.GetLength() > 1 ? text(model).substr(1, 2) : ""));
-    }
-  }
-}
-
-void ModelTest::expect_equal(std::size_t i) {
-  const Model& model = models[i];
-  ASSERT_EQ(value(strings[i]), text(model));
-  ASSERT_EQ(strings[i].GetAt(strings[i].GetLength()), '\0');
-  ASSERT_EQ(strings[i].GetAllocLength(), model ? model->room : 0);
-  ASSERT_EQ(strings[i].GetLanguage(), model ? model->tag : 0);
-  ASSERT_EQ(header(strings[i]).references,
-            model && !model->locked ? static_cast<int>(model.use_count()) : -1);
-}
-
-TEST_F(ModelTest, RandomOperationsKeepValuesTagsRoomSharingAndLocks) {
-  for (int round = 0; round < 60000; ++round) {
-    const auto i = static_cast<std::size_t>(pick(kStrings));
-    const auto j = static_cast<std::size_t>(pick(kStrings));
-    step(strings[i], models[i], strings[j], models[j]);
-    for (std::size_t k = 0; k < kStrings; ++k) expect_equal(k);
-    if (HasFatalFailure()) FAIL() << "in round " << round;
-    if (size(models[i]) > 200) {
-      strings[i] = "";
-      assign(models[i], "");
-    }
-  }
+TEST(String, ALockedBufferIsNeverShared) {
+  ZCString a = tagged("abc", 1033);
+  const ZCString b(a);
+  a.LockBuffer();
+  EXPECT_EQ(state(a), "abc 3 0 -1");
+  EXPECT_EQ(state(b), "abc 3 1033 1");
+  a.SetLanguage(1031);
+  ZCString c(a);
+  EXPECT_EQ(state(c), "abc 3 0 1");
+  c = a;
+  EXPECT_EQ(state(c), "abc 3 1031 1");
+  a = b;
+  EXPECT_EQ(state(a), "abc 3 1033 -1");
+  a.Empty();
+  EXPECT_EQ(state(a), " 3 1033 -1");
+  a = "de";
+  a.UnlockBuffer();
+  EXPECT_EQ(state(a), "de 3 1033 1");
+  a.LockBuffer();
+  a = ZCString("longer");
+  EXPECT_EQ(state(a), "longer 6 0 1");
+  ZCString none;
+  none.LockBuffer();
+  none.UnlockBuffer();
+  EXPECT_EQ(state(none), " 0 0 -1");
 }
 
 TEST(String, NullTextsCountAsEmpty) {
