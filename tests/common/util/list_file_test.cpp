@@ -1,18 +1,19 @@
-// List files beside a slow reader of the same files.
+// List files: their lines, look-up and loading.
 #include "kz/list_file.h"
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "tests/support/temp_dir.h"
+#include "tests/support/utf8.h"
 #include "text/literal.h"
 
 using kz::operator""_1251;
+using kz::test::encoded_1251;
 
 namespace {
 
@@ -42,57 +43,29 @@ Pairs pairs_of(CListFile& list) {
   return pairs;
 }
 
-Pairs slow_pairs(const std::string& contents, std::string_view letters) {
-  Pairs pairs;
-  std::string line;
-  for (const char c : contents + '\n') {
-    if (c != '\n') {
-      line += c;
-      continue;
-    }
-    if (!line.empty() && letters.find(line[0]) != std::string_view::npos) {
-      std::vector<std::string> words(1);
-      for (const char character : line) {
-        const bool blank = character == ' ' || character == '\t' || character == '\r';
-        if (!blank) words.back() += character;
-        if (blank && !words.back().empty()) words.emplace_back();
-      }
-      words.resize(2);
-      pairs.emplace_back(words[0], words[1]);
-    }
-    line.clear();
-  }
-  return pairs;
-}
-
 TEST_F(ListFileTest, LinesThatBeginWithALetterGiveAPair) {
-  const std::string_view alphabet = U"aZяЁ*|1 \t\r\n\n"_1251;
-  std::mt19937 random(1);
-  for (int round = 0; round < 300; ++round) {
-    std::string contents(random() % 200, ' ');
-    for (char& c : contents) c = alphabet[random() % alphabet.size()];
-    if (round == 0) contents += "\nq " + std::string(5000, 'x');
-    const std::string path = write("list.txt", contents);
-    CListFile list;
-    ASSERT_EQ(list._LoadList(path.c_str()), 0);
-    const Pairs expected = slow_pairs(contents, U"aZяЁxq"_1251);
-    ASSERT_EQ(pairs_of(list), expected) << contents;
-
-    for (int i = 0; i < 20; ++i) {
-      std::string text(random() % 6, ' ');
-      for (char& c : text) c = alphabet[random() % 5];
-      std::size_t at = 0;
-      while (at < expected.size() && !text.starts_with(expected[at].first)) ++at;
-      const char* found = list.Find(text.c_str());
-      if (at == expected.size()) {
-        ASSERT_EQ(found, nullptr);
-        ASSERT_EQ(list.GetCurrentItem(), nullptr);
-      } else {
-        ASSERT_EQ(found, expected[at].second);
-        ASSERT_EQ(list.GetCurrentItem(), list.GetList()->GetAt(static_cast<int>(at)));
-        ASSERT_EQ(list.FindObj(text.c_str()), list.GetCurrentItem());
-      }
-    }
+  const std::string longest(5000, 'x');
+  const std::string path =
+      write("list.txt", encoded_1251("a\tb c\r\nЯ  x \n\r\n\n* q\n q\n1 q\n|q\nё\r\n"
+                                     "q " +
+                                     longest + "\nza*1 b|"));
+  CListFile list;
+  ASSERT_EQ(list._LoadList(path.c_str()), 0);
+  EXPECT_EQ(pairs_of(list), (Pairs{{"a", "b"},
+                                   {std::string(U"Я"_1251), "x"},
+                                   {std::string(U"ё"_1251), ""},
+                                   {"q", longest},
+                                   {"za*1", "b|"}}));
+  const struct {
+    std::string_view text;
+    int item;
+  } searches[] = {{"a", 0},  {"abc", 0}, {U"Яя"_1251, 1}, {"za*12", 4},
+                  {"za", 5}, {"A", 5},   {"", 5}};
+  for (const auto& [text, item] : searches) {
+    CListItem* const found = list.FindObj(text.data());
+    EXPECT_EQ(found, list.GetCurrentItem());
+    EXPECT_EQ(found, item < 5 ? list.GetList()->GetAt(item) : nullptr) << text;
+    EXPECT_EQ(list.Find(text.data()), found != nullptr ? found->GetWordTo() : nullptr);
   }
 }
 
