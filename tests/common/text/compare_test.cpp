@@ -134,16 +134,7 @@ TEST(CompareIgnoringAccents, AgreesWithTheRuleOnRandomTexts) {
         ASSERT_EQ(stroemanicmp(a, b, n, lang), limited(x, y, n, oem_case)) << x << '|' << y;
       }
     }
-  }
-}
-
-TEST(CompareIgnoringAccents, IsExactOrRussianForARussianSource) {
-  Texts texts;
-  for (int i = 0; i < 5000; ++i) {
-    const auto [x, y] = texts.next();
-    const char* a = x.c_str();
-    const char* b = y.c_str();
-    for (const char* lang : {"RU", "RUDE", "R"}) {
+    for (const char* lang : {"RU", "RUDE", "R"}) {  // exact, or by the Russian rules
       ASSERT_EQ(stransiacmp(a, b, lang), exact(x, y));
       ASSERT_EQ(stroemacmp(a, b, lang), exact(x, y));
       ASSERT_EQ(stransiaicmp(a, b, lang), strruansiicmp(a, b));
