@@ -151,6 +151,9 @@ TEST(String, ALockedBufferIsNeverShared) {
   a.LockBuffer();
   a = ZCString("longer");
   EXPECT_EQ(state(a), "longer 6 0 1");
+  a.SetLanguage(1033);
+  a = ZCString();
+  EXPECT_EQ(state(a), " 6 0 1");
   ZCString none;
   none.LockBuffer();
   none.UnlockBuffer();

@@ -198,6 +198,7 @@ TEST(Numbers, ReadAsScanfDoesAndReportEveryWrongDigit) {
       {"$1G", 1, "G"},
       {"$fFfF", 65535, ""},
       {"$0x1f", 31, "x"},
+      {"$1x2", 1, "x"},
       {"$ 1f", 31, ""},
       {"$-1", -1, "-"},
       {"$", 0, ""},
