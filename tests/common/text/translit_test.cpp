@@ -185,6 +185,7 @@ TEST(SmartTranslit, GivesTheExamplesOfItsPage) {
     }
   }
   EXPECT_GT(examples, 90);
+  EXPECT_EQ(smart("lake\t\xFF", 1), std::string(U"лейк\tя"_1251)) << "a tab ends a word, too";
 }
 
 using InPlace = std::function<char*(char*)>;
