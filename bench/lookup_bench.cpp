@@ -27,11 +27,11 @@ struct Entries {
 };
 
 Entries read_entries(const char* path) {
-  CDic* const dictionary = DicOpen(path, 0);
+  CDic* const dictionary = DicOpen(path, DIC_MODE_PLAIN);
   if (dictionary == nullptr) fail(std::string("cannot open ") + path);
   Entries entries;
-  for (const char* text = DicFind(dictionary, nullptr, 0, 2); text != nullptr;
-       text = DicFindNext(dictionary, 2)) {
+  for (const char* text = DicFind(dictionary, nullptr, DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
+       text != nullptr; text = DicFindNext(dictionary, DIC_LEVEL_FULL)) {
     const std::string entry = text;
     const std::string word = entry.substr(0, entry.find('*'));
     if (entries.texts.emplace(word, entry).second) entries.hits.push_back(word);
@@ -73,7 +73,8 @@ void add(const std::string& name, const Entries& entries, auto find) {
 }
 
 void add_dictionary(const char* path, const Entries& entries) {
-  for (const auto mode : std::initializer_list<std::int16_t>{0, 2, 4}) {
+  for (const auto mode :
+       std::initializer_list<std::int16_t>{DIC_MODE_PLAIN, DIC_MODE_CACHE_ALL, DIC_MODE_CACHE}) {
     CDic* const dictionary = DicOpen(path, mode);
     if (dictionary == nullptr) fail(std::string("cannot open ") + path);
     LoadAllOffsets(dictionary);
@@ -86,7 +87,7 @@ void add_dictionary(const char* path, const Entries& entries) {
   benchmark::RegisterBenchmark(
       ("kz/" + std::filesystem::path(path).stem().string() + "/open_close").c_str(),
       [path](benchmark::State& state) {
-        for (auto _ : state) DicClose(DicOpen(path, 0));
+        for (auto _ : state) DicClose(DicOpen(path, DIC_MODE_PLAIN));
       });
 }
 

@@ -22,7 +22,6 @@ namespace {
 
 using scratch::fail;
 
-constexpr std::int16_t kAll = 0;  // the list of every dictionary of the queue
 constexpr std::size_t kQueue = 10;
 constexpr std::size_t kLoaded = 6;
 
@@ -76,7 +75,7 @@ void add_searches(const std::vector<std::string>& names, const std::vector<std::
     CDicSys* const set = DicSysOpen(0, "ENRU", nullptr);
     std::vector<CDic*> single;
     for (const std::string& name : names) {
-      LoadAllOffsets(DicQueLoad(set, -1, name.c_str(), mode));
+      LoadAllOffsets(DicQueLoad(set, DIC_APPEND, name.c_str(), mode));
       single.push_back(DicOpen(name.c_str(), mode));
       LoadAllOffsets(single.back());
     }
@@ -101,8 +100,8 @@ void add_searches(const std::vector<std::string>& names, const std::vector<std::
     });
     benchmark::RegisterBenchmark(("queue_of_ten" + suffix).c_str(), [=](benchmark::State& state) {
       measure(state, [&](const std::string& word) {
-        DicQueFirst(set, kAll, 0);
-        return DicQueFind(set, kAll, word.c_str(), 0, 2);
+        DicQueFirst(set, DIC_LIST_ALL, 0);
+        return DicQueFind(set, DIC_LIST_ALL, word.c_str(), 0, 2);
       });
     });
   }
@@ -113,7 +112,8 @@ void add_loading(const std::vector<std::string>& names) {
     for (auto _ : state) {
       CDicSys* const set = DicSysOpen(1, "ENRU", nullptr);
       for (std::size_t i = 0; i < kLoaded; ++i) {
-        if (DicQueLoad(set, -1, names[i].c_str(), 0) == nullptr) fail("cannot load " + names[i]);
+        if (DicQueLoad(set, DIC_APPEND, names[i].c_str(), DIC_MODE_PLAIN) == nullptr)
+          fail("cannot load " + names[i]);
       }
       DicSysClose(set);
     }

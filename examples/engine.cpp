@@ -15,11 +15,6 @@
 
 namespace {
 
-constexpr std::int16_t kTranslation = 1;  // queue list of the working direction
-constexpr std::int16_t kExact = 0;        // the headword itself, no longer word
-constexpr std::int16_t kResolved = 2;     // the whole entry, shared text included
-constexpr std::int16_t kAppend = -1;
-
 struct CloseSet {
   void operator()(CDicSys* set) const { DicSysClose(set); }
 };
@@ -49,7 +44,8 @@ std::string file_name(CDic* dictionary) {
 // Shows the meanings of an entry with their synonyms, each without its labels and attribute block.
 // Returns the first synonym.
 std::string show_synonyms(const char* text, const char* direction) {
-  const Entry entry(DicEntryOpen(text, 0, nullptr, nullptr, direction, 'C'));
+  const Entry entry(
+      DicEntryOpen(text, DIC_PART_IN_TEXT, nullptr, nullptr, direction, DIC_KIND_REDUCED));
   if (!entry) fail("out of memory");
   std::string first;
   for (std::int16_t i = 0; i < DicEntryGetMeaningsSize(entry.get()); ++i) {
@@ -71,16 +67,16 @@ std::string show_synonyms(const char* text, const char* direction) {
 // Shows all answers to a word, from the first dictionary of the direction to the last. Returns the
 // first translation of the last one.
 std::string translate(CDicSys* set, const char* direction, const char* word) {
-  DicQueFirst(set, kTranslation, 0);
-  const char* entry = DicQueFind(set, kTranslation, word, kExact, kResolved);
+  DicQueFirst(set, DIC_LIST_TRANSLATION, 0);
+  const char* entry = DicQueFind(set, DIC_LIST_TRANSLATION, word, DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
   if (entry == nullptr) fail("a word of the sample dictionaries is not found");
   std::string translation;
   while (entry != nullptr) {
-    CDic* const answered = DicGetCurrentHandler(set, kTranslation);
+    CDic* const answered = DicGetCurrentHandler(set, DIC_LIST_TRANSLATION);
     std::printf("  %s, in %s\n", word, file_name(answered).c_str());
     translation = show_synonyms(entry, direction);
-    if (DicQueNext(set, kTranslation) == nullptr) break;
-    entry = DicQueFindRest(set, kTranslation, word, kExact, kResolved);
+    if (DicQueNext(set, DIC_LIST_TRANSLATION) == nullptr) break;
+    entry = DicQueFindRest(set, DIC_LIST_TRANSLATION, word, DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
   }
   return translation;
 }
@@ -106,19 +102,19 @@ void restore(CDicSys* set, std::string_view text) {
     const std::string line(text.substr(0, text.find('\n')));
     text.remove_prefix(line.size() < text.size() ? line.size() + 1 : line.size());
     if (!line.starts_with("-C")) continue;
-    DicArrayAddPath(set, kAppend, line.substr(2, 4).c_str(), line.substr(7).c_str());
+    DicArrayAddPath(set, DIC_APPEND, line.substr(2, 4).c_str(), line.substr(7).c_str());
   }
 }
 
 void run(const char* directory) {
   Set set = open_set("ENRU", directory);
   DicSysLoadCommon(set.get());
-  std::printf("From English, %d dictionaries:\n", DicQueGetSize(set.get(), 0));
+  std::printf("From English, %d dictionaries:\n", DicQueGetSize(set.get(), DIC_LIST_ALL));
   translate(set.get(), "ENRU", "table");
 
   // A dictionary of the user's own stands in front of the others.
   const std::string own = std::string(directory) + "my.dic";
-  if (DicQueLoad(set.get(), 0, own.c_str(), 4) == nullptr) fail("no my.dic");
+  if (DicQueLoad(set.get(), 0, own.c_str(), DIC_MODE_CACHE) == nullptr) fail("no my.dic");
   std::printf("With a dictionary of one's own:\n");
   const std::string russian = translate(set.get(), "ENRU", "table");
   const std::string configuration = save(set.get());

@@ -21,10 +21,10 @@ void search(CDic* dictionary) {
   for (const std::int16_t mode :
        {std::int16_t{0}, std::int16_t{0}, std::int16_t{2}, std::int16_t{-1}}) {
     for (const char* word : words) {
-      if (DicFind(dictionary, word, mode, 2) == nullptr) continue;
-      for (int i = 0; i < kSteps && DicFindNext(dictionary, 2) != nullptr; ++i) {
+      if (DicFind(dictionary, word, mode, DIC_LEVEL_FULL) == nullptr) continue;
+      for (int i = 0; i < kSteps && DicFindNext(dictionary, DIC_LEVEL_FULL) != nullptr; ++i) {
       }
-      DicGetFound(dictionary, nullptr, -1);
+      DicGetFound(dictionary, nullptr, DIC_LEVEL_ANEW);
     }
   }
 }

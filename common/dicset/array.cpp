@@ -95,7 +95,7 @@ void append_from_list(CDicSys& set, std::int16_t list, ZCObArray& array) {
   for (int i = 0; i < dictionaries.GetSize(); ++i) {
     CDic& dictionary = *dictionary_at(dictionaries, i);
     std::uint8_t& mode = Lookup::mode(dictionary);
-    if ((mode & ~kModeFlag) != 0) mode &= static_cast<std::uint8_t>(~kModeFlag);
+    if ((mode & ~DIC_MODE_FLAG) != 0) mode &= static_cast<std::uint8_t>(~DIC_MODE_FLAG);
     put_descriptor(array, -1, "", DicGetPath(&dictionary), mode);
   }
 }
@@ -154,8 +154,8 @@ int DicArrayUpdate(CDicSys* set) {
   kz::remove_descriptors(*array);
   if (set->operation_code != 0) return 0;
   const bool into_russian = std::string_view("EDPF").find(*set->language) != std::string_view::npos;
-  kz::append_from_list(*set, kz::kWorkingList, *array);
-  kz::append_from_list(*set, into_russian ? kz::kRussianList : kz::kOtherList, *array);
+  kz::append_from_list(*set, DIC_LIST_TRANSLATION, *array);
+  kz::append_from_list(*set, into_russian ? DIC_LIST_RUSSIAN : DIC_LIST_OTHER, *array);
   return 0;
 }
 
@@ -173,8 +173,8 @@ void DicSysLoadCommon(CDicSys* set) {
 
 void DicQueEnumerate(CDicSys* set) {
   if (set == nullptr) return;
-  for (const kz::List list : {kz::kRussianChainList, kz::kOtherChainList, kz::kWorkingList,
-                              kz::kRussianList, kz::kOtherList}) {
+  for (const DicList list : {DIC_LIST_RUSSIAN_CHAIN, DIC_LIST_OTHER_CHAIN, DIC_LIST_TRANSLATION,
+                             DIC_LIST_RUSSIAN, DIC_LIST_OTHER}) {
     kz::queue_of(*set).number(list);
   }
 }

@@ -22,8 +22,8 @@ void unload_list(CDicSys& set, std::int16_t number) {
 }
 
 void clear_chain_lists(CDicSys& set) {
-  unload_list(set, kRussianChainList);
-  unload_list(set, kOtherChainList);
+  unload_list(set, DIC_LIST_RUSSIAN_CHAIN);
+  unload_list(set, DIC_LIST_OTHER_CHAIN);
 }
 
 std::int16_t load_chain(CDicSys& set, const Chain& chain) {
@@ -35,8 +35,8 @@ std::int16_t load_chain(CDicSys& set, const Chain& chain) {
 
 std::int16_t update_chain(CDicSys& set, Chain& chain) {
   for (ZCObArray& array : chain) remove_descriptors(array);
-  append_from_list(set, kRussianChainList, chain[1]);
-  append_from_list(set, kOtherChainList, chain[0]);
+  append_from_list(set, DIC_LIST_RUSSIAN_CHAIN, chain[1]);
+  append_from_list(set, DIC_LIST_OTHER_CHAIN, chain[0]);
   return -1;
 }
 

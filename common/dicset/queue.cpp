@@ -29,14 +29,13 @@ int DicQueClearIfChanged(CDicSys* set, const char* language) {
 }
 
 CDic* DicSetMode(CDicSys* set, CDic* dictionary, int16_t mode) {
-  constexpr int16_t kSameMode = 5;
   if (set == nullptr || dictionary == nullptr) return nullptr;
   const int16_t present = DicGetMode(dictionary);
-  if (mode == kz::kModeFlag || kz::same_open_mode(mode, present)) {
-    kz::Lookup::mode(*dictionary) |= static_cast<uint8_t>(mode & kz::kModeFlag);
+  if (mode == DIC_MODE_FLAG || kz::same_open_mode(mode, present)) {
+    kz::Lookup::mode(*dictionary) |= static_cast<uint8_t>(mode & DIC_MODE_FLAG);
     return dictionary;
   }
-  if (mode == kSameMode) mode = present;
+  if (mode == DIC_MODE_SAME) mode = present;
   const ZCString path = DicGetPath(dictionary);
   const int16_t id = DicGetId(dictionary);
   queue_of(*set).unload(path, 0);

@@ -10,8 +10,8 @@
 namespace kz {
 namespace {
 
-constexpr std::int16_t kTextLevel = 1;
-constexpr std::int16_t kSharedTextLevel = 2;
+constexpr std::int16_t kTextLevel = DIC_LEVEL_DECODED;
+constexpr std::int16_t kSharedTextLevel = DIC_LEVEL_FULL;
 
 }  // namespace
 

@@ -52,14 +52,14 @@ const char* DicGetFound(CDic* dictionary, char* buffer, int16_t level) {
 
 int16_t DicGetEntry(CDic* dictionary, char* buffer, int16_t search_mode) {
   const char* const entry =
-      buffer != nullptr ? DicFind(dictionary, buffer, search_mode, 2) : nullptr;
+      buffer != nullptr ? DicFind(dictionary, buffer, search_mode, DIC_LEVEL_FULL) : nullptr;
   if (entry == nullptr) return static_cast<int16_t>(kz::set_error(DIC_ERR_NOT_FOUND));
   std::strcpy(buffer, entry);
   return DIC_OK;
 }
 
 int16_t DicOpenGetEntry(const char* path, char* buffer, int16_t search_mode) {
-  CDic* const dictionary = DicOpen(path, 0);
+  CDic* const dictionary = DicOpen(path, DIC_MODE_PLAIN);
   if (dictionary == nullptr) return static_cast<int16_t>(kz::last_error());
   const int16_t result = DicGetEntry(dictionary, buffer, search_mode);
   const kz::KeepErrno keep;

@@ -12,8 +12,8 @@
 namespace kz {
 namespace {
 
-constexpr unsigned kReadDenyingWrite = 0x8020;
-constexpr unsigned kUpdate = 0x8002;
+constexpr unsigned kReadDenyingWrite = KZ_FILE_READ | KZ_FILE_SHARE_READ;
+constexpr unsigned kUpdate = KZ_FILE_READ_WRITE;
 
 // Closes on leaving a scope without touching errno.
 class OpenFile : public ZCFile {

@@ -15,6 +15,7 @@
 #include "dictionary/index_shape.h"
 #include "dictionary/index_table.h"
 #include "dictionary/little_endian.h"
+#include "kz/dictionary.h"
 #include "kz/file.h"
 
 namespace kz {
@@ -179,7 +180,7 @@ int CDicIndex::Init(std::int16_t access_mode, const char* language, const char* 
   record_count_ = record_count;
   table_size_ =
       static_cast<std::uint32_t>(entries * (depth == 5 ? kz::kRecordSize : kz::kCellSize));
-  if (access_mode == 2 || access_mode == 4) {
+  if (access_mode == DIC_MODE_CACHE_ALL || access_mode == DIC_MODE_CACHE) {
     block_cache_ = new (std::nothrow) kz::Block*[entries + 1]();
     if (block_cache_ != nullptr) {
       cache_size_ = static_cast<std::uint32_t>(entries * sizeof(kz::Block*));

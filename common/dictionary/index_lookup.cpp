@@ -9,6 +9,7 @@
 #include "dictionary/index_letters.h"
 #include "dictionary/index_order.h"
 #include "kz/charclass.h"
+#include "kz/dictionary.h"
 
 namespace kz {
 namespace {
@@ -91,9 +92,10 @@ std::int32_t IndexCore::lookup() {
 
 bool IndexCore::widen(std::int16_t search_mode) {
   if (x_.found_position_ < 0) return false;
-  const bool short_of_letters = x_.depth_ == 3   ? search_mode == 2 && x_.prefix_[2] == 0
-                                : x_.depth_ == 5 ? search_mode >= 2 && x_.prefix_[4] == 0
-                                                 : false;
+  const bool short_of_letters =
+      x_.depth_ == 3   ? search_mode == DIC_SEARCH_GROUP && x_.prefix_[2] == 0
+      : x_.depth_ == 5 ? search_mode >= DIC_SEARCH_GROUP && x_.prefix_[4] == 0
+                       : false;
   if (short_of_letters) x_.slots_[2] = kWidened;
   return short_of_letters;
 }

@@ -18,7 +18,7 @@ namespace kz {
 namespace {
 
 // The walk hands out whole records.
-constexpr std::int16_t kResolved = 2;
+constexpr std::int16_t kResolved = DIC_LEVEL_FULL;
 
 constexpr int kWesternSize = 43;
 
@@ -75,7 +75,7 @@ bool EntryWalk::open(CDic* dictionary, const char* path, const char* from, const
   it_.include_ = include;
   const bool given = dictionary != nullptr;
   close(given && dictionary == it_.dictionary_);
-  if (!given) dictionary = DicOpen(own_path, 0);
+  if (!given) dictionary = DicOpen(own_path, DIC_MODE_PLAIN);
   if (dictionary == nullptr) return false;
   if (it_.from_[0] != 0 && !IndexCore(Lookup::index(*dictionary)).set_prefix(it_.from_)) {
     if (!given) DicClose(dictionary);
@@ -85,7 +85,7 @@ bool EntryWalk::open(CDic* dictionary, const char* path, const char* from, const
   set_range(to != nullptr);
   it_.counter_ = 0;
   it_.state_ = kOpened;
-  it_.record_ = DicFind(dictionary, nullptr, 0, kResolved);
+  it_.record_ = DicFind(dictionary, nullptr, DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
   return true;
 }
 
@@ -111,7 +111,7 @@ void EntryWalk::close(bool borrowed) {
 const char* EntryWalk::first(const RecordOutputs& outputs, std::int16_t search_mode) {
   if (it_.dictionary_copy_ == nullptr) return nullptr;
   it_.counter_ = 0;
-  if (search_mode == 0) {
+  if (search_mode == DIC_SEARCH_EXACT) {
     find_start();
   } else {
     const char* const asked = outputs.headword;
@@ -125,7 +125,7 @@ const char* EntryWalk::first(const RecordOutputs& outputs, std::int16_t search_m
 // Walks from the first record of the dictionary to the first one under the range's letter.
 void EntryWalk::find_start() {
   it_.state_ = kReading;
-  it_.record_ = DicFind(it_.dictionary_, nullptr, 0, kResolved);
+  it_.record_ = DicFind(it_.dictionary_, nullptr, DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
   if (it_.start_letter_ == 'a' || it_.start_letter_ == static_cast<char>(U'а'_1251)) return;
   while (it_.record_ != nullptr && base_of(*it_.record_) != it_.start_base_) step();
 }

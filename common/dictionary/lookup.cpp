@@ -11,9 +11,6 @@
 namespace kz {
 namespace {
 
-constexpr std::int16_t kExact = 0;
-constexpr std::int16_t kRestOfRecords = -1;
-
 // Size of a block whose index cells do not give one.
 constexpr std::int32_t kUnknownBlockSize = 2048;
 
@@ -23,7 +20,8 @@ const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_
   set_error(DIC_OK);
   d_.search_mode_ = search_mode;
   const std::size_t length = word != nullptr ? strnlen(word, HeadwordTable::kWordMax + 1) : 0;
-  const bool by_headword = search_mode == kExact && length > 0 && !has_mode(1);
+  const bool by_headword =
+      search_mode == DIC_SEARCH_EXACT && length > 0 && !has_mode(DIC_MODE_NO_INDEX);
   if (by_headword) {
     const TabledRecord* record = s_.headwords.find({word, length});
     if (record != nullptr) return take_tabled(*record, level);
@@ -76,10 +74,10 @@ Lookup::Place Lookup::place_of(const char* word) {
   }
   IndexCore index(d_.index_);
   if (!index.set_prefix(word)) return {};
-  if (has_mode(1)) return rest_of(d_.position_);
+  if (has_mode(DIC_MODE_NO_INDEX)) return rest_of(d_.position_);
   const std::int32_t position = index.lookup();
   if (position < 0) return {};
-  if (d_.search_mode_ == kRestOfRecords) return rest_of(position);
+  if (d_.search_mode_ == DIC_SEARCH_REST) return rest_of(position);
   const bool widened = index.widen(d_.search_mode_);
   if (Block* kept = index.cached_block()) return {position, kept->size(), true, kept};
   std::int32_t size = index.block_size();
@@ -123,7 +121,7 @@ void Lookup::search_in_file(const Place& place) {
 }
 
 bool Lookup::find_record() {
-  const bool exact = d_.search_mode_ == kExact && d_.key_length_ > 0;
+  const bool exact = d_.search_mode_ == DIC_SEARCH_EXACT && d_.key_length_ > 0;
   return s_.packed ? find_packed_record(exact) : find_plain_record(exact);
 }
 
@@ -228,8 +226,8 @@ const char* Lookup::answer(bool found, std::int16_t level) {
 }
 
 const char* Lookup::found(std::int16_t level) {
-  constexpr std::int16_t kFully = 2;
-  if (s_.found && (level < 0 || level > d_.level_)) decode(level < 0 ? kFully : level);
+  if (s_.found && (level < 0 || level > d_.level_))
+    decode(level < 0 ? std::int16_t{DIC_LEVEL_FULL} : level);
   return d_.entry_;
 }
 
@@ -237,7 +235,7 @@ const char* Lookup::found(std::int16_t level) {
 // searches that want them.
 void Lookup::load_all_blocks() {
   constexpr std::int32_t kLargestLoaded = 65531;
-  if (!has_mode(2)) return;
+  if (!has_mode(DIC_MODE_CACHE_ALL)) return;
   IndexCore index(d_.index_);
   index.for_each_group([&](std::int32_t position, std::int32_t size) {
     const std::int32_t known = size_in_records(position, size < 1 ? kUnknownBlockSize : size);

@@ -13,7 +13,7 @@ namespace kz {
 namespace {
 
 // Read, binary, others may read.
-constexpr unsigned kOpenFlags = 0x8020;
+constexpr unsigned kOpenFlags = KZ_FILE_READ | KZ_FILE_SHARE_READ;
 
 // Versions above this one have packed records and shared text.
 constexpr std::uint16_t kLastPlainVersion = 538;
@@ -102,7 +102,7 @@ std::uint16_t Lookup::read_index(std::int16_t mode, const Header& header,
                       d_.format_version_, d_.index_offset_, header.index_count)) {
     return DIC_ERR_MEMORY;
   }
-  const bool wants_cache = plain_mode == 2 || plain_mode == 4;
+  const bool wants_cache = plain_mode == DIC_MODE_CACHE_ALL || plain_mode == DIC_MODE_CACHE;
   if (wants_cache && !index.has_cache()) mode = index.access_mode();
   d_.mode_ = static_cast<std::uint8_t>(mode);
   if (d_.file_.Seek(header.index_offset, 0) != header.index_offset) return DIC_ERR_FORMAT;

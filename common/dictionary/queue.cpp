@@ -14,7 +14,7 @@ namespace kz {
 namespace {
 
 // Open mode of an unloading that keeps what has not changed, whatever its mode.
-constexpr std::int16_t kKeepUnchanged = 6;
+constexpr std::int16_t kKeepUnchanged = DIC_MODE_ANY;
 
 constexpr char kTranslation = 'C';
 
@@ -53,8 +53,8 @@ void Queue::init(QueueState& state) {
 void Queue::reset_selections(QueueState& state) {
   std::fill(std::begin(state.list_dictionary), std::end(state.list_dictionary), nullptr);
   std::fill(std::begin(state.list_index), std::end(state.list_index), std::int16_t{0});
-  state.current_list = kAllList;
-  state.current_array = state.list_table[kAllList];
+  state.current_list = DIC_LIST_ALL;
+  state.current_array = state.list_table[DIC_LIST_ALL];
   state.current_index = 0;
   state.current_dictionary = nullptr;
 }
@@ -69,15 +69,16 @@ CDic* Queue::load(std::int16_t position, const char* path, std::int16_t mode) {
   const int count = size(list);
   const int index = position < 0 ? count : std::min<int>(position, count);
   at(list).InsertAt(index, as_element(dictionary), 1);
-  at(kAllList).Add(as_element(dictionary));
+  at(DIC_LIST_ALL).Add(as_element(dictionary));
   DicSetId(dictionary, static_cast<std::uint8_t>(index));
   return dictionary;
 }
 
 std::int16_t Queue::list_of(const CDic& dictionary) const {
   const char first_letter = *Lookup::language(dictionary);
-  if (Lookup::type(dictionary) == kTranslation && first_letter == *language_) return kWorkingList;
-  return first_letter == 'R' ? kRussianList : kOtherList;
+  if (Lookup::type(dictionary) == kTranslation && first_letter == *language_)
+    return DIC_LIST_TRANSLATION;
+  return first_letter == 'R' ? DIC_LIST_RUSSIAN : DIC_LIST_OTHER;
 }
 
 bool Queue::unload(const char* path, std::int16_t mode) {
@@ -99,7 +100,7 @@ bool Queue::unload(const char* path, std::int16_t mode) {
 
 CDic* Queue::named(const char* file_name) const {
   if (file_name == nullptr) return nullptr;
-  const ZCObArray& all = at(kAllList);
+  const ZCObArray& all = at(DIC_LIST_ALL);
   for (int i = 0; i < all.GetSize(); ++i) {
     CDic* const dictionary = dictionary_at(all, i);
     if (equal_ascii_case(GetFileName(DicGetPath(dictionary)), file_name)) return dictionary;
@@ -108,7 +109,7 @@ CDic* Queue::named(const char* file_name) const {
 }
 
 CDic* Queue::loaded_from(const char* path, int (*to_oem)(int)) const {
-  const ZCObArray& all = at(kAllList);
+  const ZCObArray& all = at(DIC_LIST_ALL);
   for (int i = 0; i < all.GetSize(); ++i) {
     CDic* const dictionary = dictionary_at(all, i);
     if (equal_paths(DicGetPath(dictionary), path, to_oem)) return dictionary;
@@ -129,23 +130,25 @@ void Queue::remove(std::int16_t list, const CDic* dictionary) {
 }
 
 void Queue::clear() {
-  ZCObArray& all = at(kAllList);
+  ZCObArray& all = at(DIC_LIST_ALL);
   for (int i = 0; i < all.GetSize(); ++i) {
     CDic* const dictionary = dictionary_at(all, i);
-    remove(kRussianChainList, dictionary);
-    remove(kOtherChainList, dictionary);
+    remove(DIC_LIST_RUSSIAN_CHAIN, dictionary);
+    remove(DIC_LIST_OTHER_CHAIN, dictionary);
     DicClose(dictionary);
   }
-  for (const List list : {kAllList, kWorkingList, kRussianList, kOtherList}) at(list).RemoveAll();
+  for (const DicList list : {DIC_LIST_ALL, DIC_LIST_TRANSLATION, DIC_LIST_RUSSIAN, DIC_LIST_OTHER})
+    at(list).RemoveAll();
   reset_selections(q_);
 }
 
 bool Queue::clear_if_changed(const char* language) {
-  const ZCObArray& working = at(kWorkingList);
-  const bool good = language != nullptr && size(kAllList) > 0 && size(kWorkingList) > 0 &&
+  const ZCObArray& working = at(DIC_LIST_TRANSLATION);
+  const bool good = language != nullptr && size(DIC_LIST_ALL) > 0 &&
+                    size(DIC_LIST_TRANSLATION) > 0 &&
                     equal_ascii_case(Lookup::language(*dictionary_at(working, 0)), language) &&
-                    !any_changed(working) && !any_changed(at(kRussianList)) &&
-                    !any_changed(at(kOtherList));
+                    !any_changed(working) && !any_changed(at(DIC_LIST_RUSSIAN)) &&
+                    !any_changed(at(DIC_LIST_OTHER));
   if (!good) clear();
   return !good;
 }

@@ -10,19 +10,8 @@ namespace kz {
 
 inline constexpr int kListCount = 6;
 
-// The lists that the library itself works with; list 3 holds what fits no other.
-enum List : std::int16_t {
-  kAllList = 0,
-  kWorkingList = 1,
-  kRussianList = 2,
-  kOtherList = 3,
-  kRussianChainList = 4,
-  kOtherChainList = 5,
-};
-
-// A flag in the mode of a dictionary, no part of how it was opened.
-inline constexpr std::int16_t kModeFlag = 128;
-inline bool same_open_mode(int a, int b) { return (a & ~kModeFlag) == (b & ~kModeFlag); }
+// Open modes without the flag, which is no part of how a dictionary was opened.
+inline bool same_open_mode(int a, int b) { return (a & ~DIC_MODE_FLAG) == (b & ~DIC_MODE_FLAG); }
 
 // The lists are arrays of objects that hold dictionaries, which are no objects.
 inline CDic* dictionary_at(const ZCObArray& list, int index) {

@@ -15,9 +15,6 @@ namespace platform = kz::platform;
 namespace {
 
 constexpr unsigned kAccessMask = 0x0003;
-constexpr unsigned kNotInherited = 0x0080;
-constexpr unsigned kCreate = 0x1000;
-constexpr unsigned kKeepContents = 0x2000;
 
 constexpr std::uint32_t kNoPosition = std::numeric_limits<std::uint32_t>::max();
 
@@ -40,14 +37,14 @@ platform::OpenMode mode_of(unsigned flags) {
   const unsigned access = flags & kAccessMask;
   const Sharing sharing = kSharing[(flags >> 4) & 7];
   platform::OpenMode mode;
-  mode.read = access != 1;
-  mode.write = access == 1 || access == 2;
+  mode.read = access != KZ_FILE_WRITE;
+  mode.write = access == KZ_FILE_WRITE || access == KZ_FILE_READ_WRITE;
   mode.others_may_read = sharing.read;
   mode.others_may_write = sharing.write;
-  mode.inherit = (flags & kNotInherited) == 0;
-  if ((flags & kCreate) != 0)
-    mode.creation = (flags & kKeepContents) != 0 ? platform::Creation::open_or_create
-                                                 : platform::Creation::create_truncated;
+  mode.inherit = (flags & KZ_FILE_NO_INHERIT) == 0;
+  if ((flags & KZ_FILE_CREATE) != 0)
+    mode.creation = (flags & KZ_FILE_KEEP) != 0 ? platform::Creation::open_or_create
+                                                : platform::Creation::create_truncated;
   return mode;
 }
 

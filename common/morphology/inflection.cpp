@@ -26,7 +26,7 @@ using kz::operator""_1251;
 namespace kz {
 namespace {
 
-constexpr unsigned kReadDenyingWrite = 0x8020;
+constexpr unsigned kReadDenyingWrite = KZ_FILE_READ | KZ_FILE_SHARE_READ;
 constexpr std::string_view kCompiledExtension = ".Dat";
 constexpr std::string_view kTextExtension = ".txt";
 

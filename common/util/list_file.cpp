@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr unsigned kReadDenyingWrite = 0x8020;
+constexpr unsigned kReadDenyingWrite = KZ_FILE_READ | KZ_FILE_SHARE_READ;
 
 ZCString string_of(std::string_view text) { return {text.data(), static_cast<int>(text.size())}; }
 

@@ -8,7 +8,7 @@
 #include "platform/replace.h"
 
 namespace {
-constexpr unsigned kReadDenyingWrite = 0x8020;
+constexpr unsigned kReadDenyingWrite = KZ_FILE_READ | KZ_FILE_SHARE_READ;
 }  // namespace
 
 extern "C" {

@@ -68,9 +68,9 @@ KZ_API CDic* DicQueLoad(CDicSys* set, int16_t position, const char* path, int16_
 /* Removes the dictionary of list 0 that has the file name of the path (ignoring ASCII case; the
  * directories do not count) from all lists and destroys it. The lists that held it, and the set,
  * have no current dictionary and index -1 afterwards. Returns 1, also when there is none. It is
- * kept, with result 0, when the mode is not 0, equals its open mode (the flag 128 aside) or is 6,
- * and its file has not changed: it can be asked for its modification time, and that is the one of
- * when it was opened. */
+ * kept, with result 0, when the mode is not DIC_MODE_PLAIN, equals its open mode (DIC_MODE_FLAG
+ * aside) or is DIC_MODE_ANY, and its file has not changed: it can be asked for its modification
+ * time, and that is the one of when it was opened. */
 KZ_API int DicQueUnLoad(CDicSys* set, const char* path, int16_t mode);
 
 /* Destroys all dictionaries of list 0 and empties lists 0 to 3; lists 4 and 5 keep only handles of
@@ -85,9 +85,9 @@ KZ_API int DicQueClearIfChanged(CDicSys* set, const char* language);
 
 /* Opens a dictionary of the queue anew in another open mode: unloads it and loads the same path
  * with its id as the position. Returns the new handle, the old one is gone; null when that fails
- * (then the dictionary is gone too), and for a null set or dictionary. Mode 5 reopens in the
- * present mode. The present mode itself, the flag 128 aside, and 128 alone reopen nothing: they
- * return the handle, and add the flag to the mode when they have it. */
+ * (then the dictionary is gone too), and for a null set or dictionary. DIC_MODE_SAME reopens in the
+ * present mode. The present mode itself, DIC_MODE_FLAG aside, and this flag alone reopen nothing:
+ * they return the handle, and add the flag to the mode when they have it. */
 KZ_API CDic* DicSetMode(CDicSys* set, CDic* dictionary, int16_t mode);
 
 /* --- Lists and selection ---------------------------------------------------------------------- */

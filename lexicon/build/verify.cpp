@@ -10,10 +10,6 @@
 namespace kz::lexicon {
 namespace {
 
-constexpr std::int16_t kExact = 0;
-constexpr std::int16_t kToTheEnd = -1;
-constexpr std::int16_t kResolve = 2;
-
 void expect(const std::string& name, const char* found, const Record& record) {
   if (found != nullptr && record.text == found) return;
   throw Error(ErrorCode::kData, name + ": the finished dictionary cannot be searched: '" +
@@ -25,20 +21,21 @@ void expect(const std::string& name, const char* found, const Record& record) {
 
 void verify_dictionary(const std::string& path, const std::string& name,
                        const std::vector<Record>& records) {
-  const DictionaryHandle dictionary = open_dictionary(path, 0);
+  const DictionaryHandle dictionary = open_dictionary(path, DIC_MODE_PLAIN);
   const char* found = nullptr;
   for (std::size_t i = 0; i < records.size(); ++i) {
     const bool again = i > 0 && records[i].headword == records[i - 1].headword;
-    found = again ? DicFindNext(dictionary.get(), kResolve)
-                  : DicFind(dictionary.get(), records[i].headword.c_str(), kExact, kResolve);
+    found = again ? DicFindNext(dictionary.get(), DIC_LEVEL_FULL)
+                  : DicFind(dictionary.get(), records[i].headword.c_str(), DIC_SEARCH_EXACT,
+                            DIC_LEVEL_FULL);
     expect(name, found, records[i]);
   }
   for (std::size_t i = 0; i < records.size(); ++i) {
-    found = i > 0 ? DicFindNext(dictionary.get(), kResolve)
-                  : DicFind(dictionary.get(), nullptr, kToTheEnd, kResolve);
+    found = i > 0 ? DicFindNext(dictionary.get(), DIC_LEVEL_FULL)
+                  : DicFind(dictionary.get(), nullptr, DIC_SEARCH_REST, DIC_LEVEL_FULL);
     expect(name, found, records[i]);
   }
-  if (DicFindNext(dictionary.get(), kResolve) != nullptr) {
+  if (DicFindNext(dictionary.get(), DIC_LEVEL_FULL) != nullptr) {
     throw Error(ErrorCode::kData, name + ": the finished dictionary has records too many");
   }
 }

@@ -81,8 +81,8 @@ class Viewer {
  public:
   Viewer(const std::string& entry, const std::string& language)
       : language_(language),
-        handle_(DicEntryOpen(with_marks(entry, language).c_str(), 0, nullptr, nullptr,
-                             language.c_str(), 'c')) {}
+        handle_(DicEntryOpen(with_marks(entry, language).c_str(), DIC_PART_IN_TEXT, nullptr,
+                             nullptr, language.c_str(), DIC_KIND_SPACED)) {}
 
   EntryView view(const std::string& entry) const {
     EntryView view;

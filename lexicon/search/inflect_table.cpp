@@ -23,7 +23,7 @@ namespace kz::lexicon {
 namespace {
 
 constexpr const char* kHint = " (kzdic inflect --build makes a table)";
-constexpr unsigned kReadDenyingWrite = 0x8020;
+constexpr unsigned kReadDenyingWrite = KZ_FILE_READ | KZ_FILE_SHARE_READ;
 constexpr std::string_view kCompiledExtension = ".Dat";
 constexpr std::size_t kLongestEnding = 79;
 constexpr int kRecords = 4;
