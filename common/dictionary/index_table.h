@@ -13,17 +13,18 @@ namespace kz {
 
 struct IndexState;
 
+inline constexpr std::size_t kStateSize = sizeof(void*);
+
 // The entries that the pointer takes the room of.
 template <typename Entry>
-inline constexpr std::size_t kStateEntries = (sizeof(IndexState*) + sizeof(Entry) - 1) /
-                                             sizeof(Entry);
+inline constexpr std::size_t kStateEntries = (kStateSize + sizeof(Entry) - 1) / sizeof(Entry);
 
 // A table of entries without values; null when memory runs out.
 template <typename Entry>
 Entry* new_table(std::size_t entries, IndexState* state) {
   auto* const block = new (std::nothrow) Entry[kStateEntries<Entry> + entries];
   if (block == nullptr) return nullptr;
-  std::memcpy(block, &state, sizeof state);
+  std::memcpy(block, &state, kStateSize);
   return block + kStateEntries<Entry>;
 }
 
@@ -37,7 +38,7 @@ void delete_table(Entry* table) {
 template <typename Entry>
 IndexState* state_of(const Entry* table) {
   IndexState* state = nullptr;
-  if (table != nullptr) std::memcpy(&state, table - kStateEntries<Entry>, sizeof state);
+  if (table != nullptr) std::memcpy(&state, table - kStateEntries<Entry>, kStateSize);
   return state;
 }
 
