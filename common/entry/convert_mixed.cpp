@@ -2,8 +2,8 @@
 #include <cstddef>
 
 #include "entry/convert.h"
-#include "morphology/language.h"
 #include "text/base_letters.h"
+#include "text/language.h"
 
 namespace kz {
 namespace {

@@ -7,8 +7,8 @@
 #include <span>
 #include <string_view>
 
-#include "morphology/language.h"
 #include "text/byte_map.h"
+#include "text/language.h"
 #include "text/literal.h"
 
 namespace kz {

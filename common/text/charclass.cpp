@@ -1,10 +1,10 @@
 // Character classes and case of the five families.
 #include "kz/charclass.h"
 
-#include "morphology/language.h"
 #include "text/byte_map.h"
 #include "text/case_maps.h"
 #include "text/char_classes.h"
+#include "text/language.h"
 
 namespace kz {
 namespace {

@@ -6,12 +6,12 @@
 #include <cstring>
 #include <string_view>
 
-#include "morphology/language.h"
 #include "text/base_letters.h"
 #include "text/byte_map.h"
 #include "text/case_maps.h"
 #include "text/char_classes.h"
 #include "text/conversions.h"
+#include "text/language.h"
 #include "text/literal.h"
 
 namespace kz {

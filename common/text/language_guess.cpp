@@ -3,8 +3,8 @@
 #include <string_view>
 
 #include "kz/special.h"
-#include "morphology/language.h"
 #include "text/char_classes.h"
+#include "text/language.h"
 
 namespace kz {
 namespace {

@@ -7,10 +7,10 @@
 #include <span>
 #include <string_view>
 
-#include "morphology/language.h"
 #include "text/base_letters.h"
 #include "text/byte_map.h"
 #include "text/case_maps.h"
+#include "text/language.h"
 #include "text/literal.h"
 
 namespace kz {

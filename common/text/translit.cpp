@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <string_view>
 
-#include "morphology/language.h"
 #include "text/base_letters.h"
 #include "text/case_maps.h"
 #include "text/char_classes.h"
+#include "text/language.h"
 #include "text/literal.h"
 
 namespace kz {

@@ -9,8 +9,7 @@ import sys
 # single header.
 PLATFORM = {"platform"}
 FOUNDATION = PLATFORM | {"foundation"}
-# The seams between text, the language tests and the string's language-dependent operations.
-TEXT = {"text", "morphology/language.h", "foundation/text_key.h"}
+TEXT = {"text"}
 UTIL = FOUNDATION | TEXT | {"util"}
 ENTRY = UTIL | {"entry"}
 DICTIONARY = ENTRY | {"dictionary"}
@@ -35,18 +34,18 @@ ALLOWED = {
 HEADERS = {
     "platform": "platform",
     "foundation": "string file array map time object",
-    "text": "codepage charclass compare special translit",
+    "text": "codepage charclass compare language special translit",
     "dictionary": "dic_error dic_header dic_index dictionary dic_iterator dic_queue",
     "entry": "entry_text entry entry_convert",
     "dicset": "dic_set dic_array",
     "grammar": "gram_record gram_codec gram_map gram_attr",
-    "morphology": "inflection language front_coding",
+    "morphology": "inflection front_coding",
     "util": "replace_buffer list_file lexer strutil queue engine",
 }
 FOLDER_OF_HEADER = {f"kz/{name}.h": folder for folder, names in HEADERS.items()
                     for name in names.split()}
 # For everybody, in whatever folder they stand: no code, or codes alone.
-FREE = {"kz/export.h", "kz/types.h", "kz/dic_error.h", "kz/language.h", "kz/platform.h"}
+FREE = {"kz/export.h", "kz/types.h", "kz/dic_error.h", "kz/platform.h"}
 # What needs no header of the tree: programs on top of the library.
 PUBLIC_ONLY = {"lexicon", "tools", "bench", "fuzz", "examples"}
 LEXICON_CLIENTS = {"lexicon", "tools", "bench", "fuzz", "examples"}

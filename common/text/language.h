@@ -1,6 +1,6 @@
 // The language and direction codes of the library, and how texts name them.
-#ifndef KZ_MORPHOLOGY_LANGUAGE_H
-#define KZ_MORPHOLOGY_LANGUAGE_H
+#ifndef KZ_TEXT_LANGUAGE_H
+#define KZ_TEXT_LANGUAGE_H
 
 namespace kz {
 
@@ -46,4 +46,4 @@ constexpr Language language_of(const char* text) {
 
 }  // namespace kz
 
-#endif  // KZ_MORPHOLOGY_LANGUAGE_H
+#endif  // KZ_TEXT_LANGUAGE_H

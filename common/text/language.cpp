@@ -1,5 +1,5 @@
 // Language codes: recognising, mapping, inverting.
-#include "morphology/language.h"
+#include "text/language.h"
 
 #include <cstring>
 
