@@ -26,16 +26,16 @@ consteval std::array<std::string_view, Size> names_of(const Row (&rows)[Size]) {
   return names;
 }
 
-constexpr auto word_class_names = names_of(attribute::word_classes);
-constexpr auto addition_names = names_of(attribute::additions);
-constexpr auto stem_change_names = names_of(attribute::stem_changes);
+constexpr auto kWordClassNames = names_of(attribute::kWordClasses);
+constexpr auto kAdditionNames = names_of(attribute::kAdditions);
+constexpr auto kStemChangeNames = names_of(attribute::kStemChanges);
 
 // The names of a kind, none for a kind that does not exist.
 Names names_of_kind(int16_t kind) {
   switch (kind) {
-    case 0: return word_class_names;
-    case 1: return addition_names;
-    case 2: return stem_change_names;
+    case 0: return kWordClassNames;
+    case 1: return kAdditionNames;
+    case 2: return kStemChangeNames;
     default: return {};
   }
 }
@@ -48,7 +48,7 @@ void expand(GRAMINFO& gram, const Field& index_field, std::span<const WordClass>
   for (std::size_t i = 0; i < std::size(gram.word); ++i) {
     gram.word[i] = (gram.word[i] & ~word_class.cleared.word[i]) | word_class.added.word[i];
   }
-  if (word_class.code != attribute::kept) field::code.set(gram, word_class.code);
+  if (word_class.code != attribute::kKept) field::kCode.set(gram, word_class.code);
 }
 
 }  // namespace
@@ -76,17 +76,17 @@ void SetGrSrcAttr(GRAMINFO* gram, const uint32_t* attributes) {
   const uint32_t indices = attributes[0], paradigm = attributes[1];
   // The shifts bring the sign bit of the six-bit index to that of a byte and back.
   const auto addition = static_cast<int8_t>(indices >> 8 << 2) >> 2;
-  kz::field::attribute_value.set(*gram, indices >> 14);
-  kz::field::attribute0.set(*gram, indices);
-  kz::field::attribute1.set(*gram, static_cast<uint32_t>(addition));
+  kz::field::kAttributeValue.set(*gram, indices >> 14);
+  kz::field::kAttribute0.set(*gram, indices);
+  kz::field::kAttribute1.set(*gram, static_cast<uint32_t>(addition));
   kz::set_paradigm(*gram, paradigm, indices >> 16, static_cast<unsigned char>(paradigm >> 16));
   SetGrSrcAttr1(gram);
 }
 
 void SetGrSrcAttr1(GRAMINFO* gram) {
   if (gram == nullptr) return;
-  kz::expand(*gram, kz::field::attribute0, kz::attribute::word_classes);
-  kz::expand(*gram, kz::field::attribute1, kz::attribute::additions);
+  kz::expand(*gram, kz::field::kAttribute0, kz::attribute::kWordClasses);
+  kz::expand(*gram, kz::field::kAttribute1, kz::attribute::kAdditions);
 }
 
 uint32_t MakeParadigm(int16_t number, int16_t base) {

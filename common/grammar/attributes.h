@@ -2,11 +2,14 @@
 #ifndef KZ_GRAMMAR_ATTRIBUTES_H
 #define KZ_GRAMMAR_ATTRIBUTES_H
 
+#include <cstdint>
+#include <iterator>
 #include <string_view>
 
 #include "grammar/fields.h"
 #include "grammar/tags.h"
 #include "kz/gram_record.h"
+#include "text/case_letters.h"
 #include "text/literal.h"
 
 namespace kz {
@@ -21,26 +24,16 @@ struct WordClass {
 
 namespace attribute {
 
-inline constexpr unsigned char kept = 0;
+inline constexpr unsigned char kKept = 0;
 
 // A class without grammar.
-consteval WordClass named(const char* name, unsigned char code = kept) {
+consteval WordClass named(const char* name, unsigned char code = kKept) {
   return {.name = name, .code = code};
 }
 
-consteval const Tag& find_tag(Group group, std::string_view text) {
-  for (const Tag& tag : tags_of_group[static_cast<std::size_t>(group)]) {
-    if (tag.kind == Tag::Kind::flag && tag.text == text) return tag;
-  }
-  throw "a tag that the group lacks";
-}
-
-// The bit of a case letter in a case set, 0 for other characters.
-consteval std::uint32_t case_of(char letter) {
-  for (std::size_t i = 0; i < case_letters.size(); ++i) {
-    if (case_letters[i] == letter) return std::uint32_t{1} << i;
-  }
-  return 0;
+consteval void replace(WordClass& word_class, const Field& field, std::uint32_t value) {
+  field.set(word_class.added, value);
+  word_class.cleared.word[field.word] |= field.mask();
 }
 
 // A class that stands for a tag string of the group: flags (the named bit alone, without what
@@ -48,38 +41,37 @@ consteval std::uint32_t case_of(char letter) {
 consteval WordClass tagged(const char* name, unsigned char code, Group group,
                            std::string_view tags) {
   WordClass result{.name = name, .code = code};
-  for (std::size_t i = 0; i < tags.size(); ++i) {
-    if (case_of(tags[i]) != 0) {
-      field::cases.set(result.added, case_of(tags[i]));
-      field::cases.set(result.cleared, all_cases);
-    } else if (tags[i] >= '1' && tags[i] <= '3') {
-      field::person.set(result.added, static_cast<std::uint32_t>(tags[i] - '0'));
-      field::person.set(result.cleared, 3);
+  while (!tags.empty()) {
+    const std::string_view tag = next_tag(tags);
+    const char letter = tag.front();
+    if (const Flag flag = find_flag(group, tag).flag; flag.mask != 0) {
+      flag.set(result.added);
+    } else if (case_of(letter) != 0) {
+      replace(result, field::kCases, case_of(letter));
+    } else if (letter >= '1' && letter <= '3') {
+      replace(result, field::kPerson, static_cast<std::uint32_t>(letter - '0'));
     } else {
-      const std::size_t length = tags[i] == '-' ? 2 : 1;
-      const Tag& tag = find_tag(group, tags.substr(i, length));
-      result.added.word[tag.word] |= tag.mask;
-      i += length - 1;
+      throw "a tag that the group lacks";
     }
   }
   return result;
 }
 
 consteval WordClass noun(const char* name, unsigned char code, std::string_view tags) {
-  return tagged(name, code, Group::noun, tags);
+  return tagged(name, code, Group::kNoun, tags);
 }
 consteval WordClass adjective(const char* name, unsigned char code, std::string_view tags) {
-  return tagged(name, code, Group::adjective, tags);
+  return tagged(name, code, Group::kAdjective, tags);
 }
 consteval WordClass verb(const char* name, unsigned char code, std::string_view tags) {
-  return tagged(name, code, Group::verb, tags);
+  return tagged(name, code, Group::kVerb, tags);
 }
 consteval WordClass pronoun(const char* name, unsigned char code, std::string_view tags) {
-  return tagged(name, code, Group::pronoun, tags);
+  return tagged(name, code, Group::kPronoun, tags);
 }
 
 // Kind 0: the class of the word form. The index is the position, here and below.
-inline constexpr WordClass word_classes[] = {
+inline constexpr WordClass kWordClasses[] = {
     named("EMPTY"),
     noun("NM", 'N', "M"),
     noun("NMa", 'N', "M@"),
@@ -149,18 +141,18 @@ inline constexpr WordClass word_classes[] = {
 };
 
 // Kind 1: what the word adds to its class.
-inline constexpr WordClass additions[] = {
+inline constexpr WordClass kAdditions[] = {
     named("NOTHING"),
     named("ArRel"),
-    adjective("ArOrd", kept, "o"),
-    adjective("ArPos", kept, "m"),
-    verb("VImpTrans", kept, "T"),
-    verb("VImpIntr", kept, "I"),
-    verb("VPerTrans", kept, "eT"),
-    verb("VPerIntr", kept, "eI"),
-    verb("VT", kept, "T"),
-    verb("VI", kept, "I"),
-    adjective("DComp", kept, "c"),
+    adjective("ArOrd", kKept, "o"),
+    adjective("ArPos", kKept, "m"),
+    verb("VImpTrans", kKept, "T"),
+    verb("VImpIntr", kKept, "I"),
+    verb("VPerTrans", kKept, "eT"),
+    verb("VPerIntr", kKept, "eI"),
+    verb("VT", kKept, "T"),
+    verb("VI", kKept, "I"),
+    adjective("DComp", kKept, "c"),
     named("opO"),
     named("opP"),
     pronoun("MR1S", 'R', "1S@"),
@@ -172,14 +164,14 @@ inline constexpr WordClass additions[] = {
     pronoun("MR2P", 'R', "2P@"),
     pronoun("MR3P", 'R', "3P"),
     pronoun("MO", 'O', "SM"),
-    pronoun("MP", kept, "ASM"),
+    pronoun("MP", kKept, "ASM"),
     named("MR"),
-    pronoun("MM", kept, "?SM"),
+    pronoun("MM", kKept, "?SM"),
 };
 
 // Kind 2: the change of the stem. Names alone: the index goes into the paradigm base.
 // clang-format off
-inline constexpr const char* stem_changes[] = {
+inline constexpr const char* kStemChanges[] = {
     "DoNothing", "D1", "D2", "D3", "D4", "D5", "D6", "D7", "D8", "C",
     "Z_C", "Z_D2", "Z_Rj", "Z_Rx", "D1_C", "D1_U", "D1_UMin", "D1_CU", "D1_Rx", "D1_D1i",
     "D1_D1x", "D1_en", "D1_er", "D1_jat", "v", "d", "zh", "n", "t", "ch",
@@ -195,8 +187,8 @@ inline constexpr const char* stem_changes[] = {
 };
 // clang-format on
 
-static_assert(std::size(word_classes) == 66 && std::size(additions) == 25);
-static_assert(std::size(stem_changes) == 111);
+static_assert(std::size(kWordClasses) == 66 && std::size(kAdditions) == 25);
+static_assert(std::size(kStemChanges) == 111);
 
 }  // namespace attribute
 }  // namespace kz

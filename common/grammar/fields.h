@@ -1,4 +1,4 @@
-// Fields of several bits inside the words of a GRAMINFO.
+// Where the fields of several bits are in the words of a GRAMINFO.
 #ifndef KZ_GRAMMAR_FIELDS_H
 #define KZ_GRAMMAR_FIELDS_H
 
@@ -19,35 +19,39 @@ struct Field {
   constexpr void set(GRAMINFO& gram, std::uint32_t value) const {
     gram.word[word] = (gram.word[word] & ~mask()) | (value << shift & mask());
   }
+  constexpr void add(GRAMINFO& gram, std::uint32_t value) const {
+    gram.word[word] |= value << shift & mask();
+  }
 };
 
 namespace field {
 
-inline constexpr Field attribute_value{0, 1, 2};
-inline constexpr Field cases{1, GRAM_CASES_SHIFT, 6};
-inline constexpr Field second_cases{2, GRAM_SECOND_CASES_SHIFT, 6};
-inline constexpr Field code{2, GRAM_CODE_SHIFT, 8};
-inline constexpr Field attribute0{2, 16, 8};
-inline constexpr Field attribute1{2, 24, 8};
-inline constexpr Field paradigm_base{3, 0, 8};
-inline constexpr Field paradigm_number{3, GRAM_PARADIGM_NUMBER_SHIFT, 16};
-inline constexpr Field paradigm_letter{3, GRAM_PARADIGM_LETTER_SHIFT, 8};
-inline constexpr Field third_cases{4, GRAM_THIRD_CASES_SHIFT, 6};
-inline constexpr Field person{5, GRAM_PERSON_SHIFT, 2};
-inline constexpr Field small_letter{6, 0, 8};
-inline constexpr Field oblique_marks{6, 14, 5};  // genitive to prepositional
-inline constexpr Field small_number{6, 19, 5};
+inline constexpr Field kAttributeValue{0, 1, 2};
+inline constexpr Field kGender{1, 0, 2};  // masculine and feminine
+inline constexpr Field kCases{1, GRAM_CASES_SHIFT, 6};
+inline constexpr Field kSecondCases{2, GRAM_SECOND_CASES_SHIFT, 6};
+inline constexpr Field kCode{2, GRAM_CODE_SHIFT, 8};
+inline constexpr Field kAttribute0{2, 16, 8};
+inline constexpr Field kAttribute1{2, 24, 8};
+inline constexpr Field kParadigmBase{3, 0, 8};
+inline constexpr Field kParadigmNumber{3, GRAM_PARADIGM_NUMBER_SHIFT, 16};
+inline constexpr Field kParadigmLetter{3, GRAM_PARADIGM_LETTER_SHIFT, 8};
+inline constexpr Field kThirdCases{4, GRAM_THIRD_CASES_SHIFT, 6};
+inline constexpr Field kPerson{5, GRAM_PERSON_SHIFT, 2};
+inline constexpr Field kSmallLetter{6, 0, 8};
+inline constexpr Field kObliqueMarks{6, 14, 5};  // genitive to prepositional
+inline constexpr Field kSmallNumber{6, 19, 5};
 
 }  // namespace field
 
 // The paradigm number that means no paradigm.
-inline constexpr std::uint32_t no_paradigm_number = 65535;
+inline constexpr std::uint32_t kNoParadigmNumber = 65535;
 
 constexpr void set_paradigm(GRAMINFO& gram, std::uint32_t number, std::uint32_t base,
                             unsigned char letter) {
-  field::paradigm_number.set(gram, number);
-  field::paradigm_base.set(gram, base);
-  field::paradigm_letter.set(gram, letter);
+  field::kParadigmNumber.set(gram, number);
+  field::kParadigmBase.set(gram, base);
+  field::kParadigmLetter.set(gram, letter);
 }
 
 }  // namespace kz

@@ -112,18 +112,18 @@ void plural_verb_in_third_person(MapSteps& s) {
 void auxiliary_be(MapSteps& s) {
   s.er_verb();
   if (!s.word_is("be")) return;
-  s.gram.word[flag::verb_n.word] |= flag::verb_n.mask;
+  flag::kVerbN.set(s.gram);
   s.record.set_foreign_gram(s.gram);
 }
 
 void preposition_of(MapSteps& s) {
-  if (!s.has(flag::verb_O) && (s.word_is("of") || s.has(flag::verb_p))) s.record.aspect() = 1;
+  if (!s.has(flag::kVerbO) && (s.word_is("of") || s.has(flag::kVerbP))) s.record.aspect() = 1;
   preposition(s);
 }
 
 void number_tense_person(MapSteps& s) {
   s.set_plural();
-  s.record.tense() = s.has(flag::past);
+  s.record.tense() = s.has(flag::kPast);
   s.set_person();
 }
 
@@ -132,7 +132,7 @@ void third_person_masculine(MapSteps& s) {
   s.record.gender() = 1;
 }
 
-constexpr MapRules rules({
+constexpr MapRules kRules({
     {"#Nn", noun},
     {"A", adjective},
     {"a", adjective_mark},
@@ -179,7 +179,7 @@ void verb(MapSteps& s) {
   s.set_paradigm_number();
 }
 
-constexpr MapRules rules({
+constexpr MapRules kRules({
     {"N", noun},
     {"A", adjective},
     {"a", adjective_mark},
@@ -210,11 +210,11 @@ void append_rest(char* text, std::string_view rest) {
 }  // namespace kz
 
 void er_set_egram(std::uint8_t* record, std::int16_t code) {
-  kz::er::rules.apply(record, &WordRecordView::foreign_gram, code);
+  kz::er::kRules.apply(record, &WordRecordView::foreign_gram, code);
 }
 
 void re_set_egram(std::uint8_t* record, std::int16_t code, const char* text) {
-  kz::re::rules.apply(record, &WordRecordView::foreign_gram, code);
+  kz::re::kRules.apply(record, &WordRecordView::foreign_gram, code);
   if (record == nullptr || text == nullptr) return;
   const WordRecordView view(record);
   if (view.level() > 4 && view.text_buffer() != nullptr) kz::append_rest(view.text_buffer(), text);

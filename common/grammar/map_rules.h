@@ -27,7 +27,7 @@ class MapRules {
       rules_[i] = rows[i].rule;
       for (const char c : rows[i].codes) {
         std::uint8_t& row = row_of_code_[static_cast<unsigned char>(c)];
-        if (row != none) throw "a code in two rows";
+        if (row != kNone) throw "a code in two rows";
         row = static_cast<std::uint8_t>(i + 1);
       }
     }
@@ -38,14 +38,14 @@ class MapRules {
              std::int16_t code) const {
     if (record == nullptr) return;
     const std::uint8_t row = row_of_code_[static_cast<unsigned char>(code)];
-    if (row == none) return;
+    if (row == kNone) return;
     const WordRecordView view(record);
     MapSteps steps{view, (view.*gram)(), static_cast<unsigned char>(code)};
     rules_[row - 1](steps);
   }
 
  private:
-  static constexpr std::uint8_t none = 0;
+  static constexpr std::uint8_t kNone = 0;
   std::array<std::uint8_t, 256> row_of_code_{};
   std::array<MapRule, N> rules_{};
 };

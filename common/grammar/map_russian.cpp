@@ -22,7 +22,7 @@ void adjective(MapSteps& s) {
 }
 
 void set_governed_cases(MapSteps& s) {
-  const std::uint8_t second = s.get(field::second_cases);
+  const std::uint8_t second = s.get(field::kSecondCases);
   if (s.cases() != 0) {
     s.set_cases();
   } else if (second != 0) {
@@ -35,29 +35,28 @@ void set_governed_cases(MapSteps& s) {
 // imperfective one, or one whose foreign verb is never perfective, is so only by its own bit, not
 // by what an earlier step found.
 void set_reflexive(MapSteps& s) {
-  if (s.has(flag::reflexive) && s.has(flag::verb_X) && s.has(flag::perfective_mark)) {
-    s.gram.word[flag::reflexive.word] &= ~flag::reflexive.mask;
+  if (s.has(flag::kReflexive) && s.has(flag::kVerbX) && s.has(flag::kPerfectiveMark)) {
+    flag::kReflexive.clear(s.gram);
     s.record.set_russian_gram(s.gram);
   }
-  const Flag never = flag::never_perfective;
-  const bool foreign_never = (s.record.foreign_gram().word[never.word] & never.mask) != 0;
-  if (s.has(flag::verb_X) && (s.has(flag::imperfective) || foreign_never)) s.clear_reflexive();
-  s.set_verb_flag(flag::reflexive, WORD_VERB_REFLEXIVE);
+  const bool foreign_never = flag::kNeverPerfective.is_set(s.record.foreign_gram());
+  if (s.has(flag::kVerbX) && (s.has(flag::kImperfective) || foreign_never)) s.clear_reflexive();
+  s.set_verb_flag(flag::kReflexive, WORD_VERB_REFLEXIVE);
 }
 
 void verb(MapSteps& s) {
   s.set_H_flag();
   s.set_number();
   set_governed_cases(s);
-  s.if_has(flag::perfective_mark, s.record.aspect(), 1);
-  s.if_has(flag::verb_V, s.record.v_flag(), 1);
-  s.if_has(flag::verb_no_V, s.record.v_flag(), 0);
-  s.if_has(flag::verb_no_V, s.record.aspect(), 0);
-  s.set_verb_flag(flag::imperative, WORD_VERB_IMPERATIVE);
+  s.if_has(flag::kPerfectiveMark, s.record.aspect(), 1);
+  s.if_has(flag::kVerbV, s.record.v_flag(), 1);
+  s.if_has(flag::kVerbNoV, s.record.v_flag(), 0);
+  s.if_has(flag::kVerbNoV, s.record.aspect(), 0);
+  s.set_verb_flag(flag::kImperative, WORD_VERB_IMPERATIVE);
   s.set_past();
   s.set_future();
   s.set_aspect();
-  s.if_has(flag::passive, s.record.v_flag(), 0);
+  s.if_has(flag::kPassive, s.record.v_flag(), 0);
   set_reflexive(s);
   s.set_paradigm_number();
 }
@@ -67,7 +66,7 @@ void preposition(MapSteps& s) {
   s.set_cases_if_any();
 }
 
-constexpr MapRules rules({
+constexpr MapRules kRules({
     {"#Nn", noun},
     {"Aa", adjective},
     {"EFV", verb},
@@ -88,12 +87,12 @@ void noun(MapSteps& s) {
 
 void adjective(MapSteps& s) {
   s.set_H_flag();
-  s.if_has(flag::adjective_no_H, s.record.h_flag(), 0);
+  s.if_has(flag::kAdjectiveNoH, s.record.h_flag(), 0);
   s.set_number();
   s.set_gender();
   s.set_cases();
   s.set_aspect_by_K();
-  if (field::paradigm_number.get(s.gram) != 0) s.set_paradigm_number();
+  if (field::kParadigmNumber.get(s.gram) != 0) s.set_paradigm_number();
 }
 
 void numeral(MapSteps& s) { s.set_plural(); }
@@ -108,14 +107,14 @@ void pronoun(MapSteps& s) {
 
 void verb(MapSteps& s) {
   s.set_aspect();
-  s.if_has(flag::perfective_mark, s.record.aspect(), 1);
-  s.if_has(flag::never_perfective, s.record.aspect(), 0);
-  if (s.has(flag::verb_X)) s.clear_reflexive();
-  s.set_verb_flag(flag::reflexive, WORD_VERB_REFLEXIVE);
+  s.if_has(flag::kPerfectiveMark, s.record.aspect(), 1);
+  s.if_has(flag::kNeverPerfective, s.record.aspect(), 0);
+  if (s.has(flag::kVerbX)) s.clear_reflexive();
+  s.set_verb_flag(flag::kReflexive, WORD_VERB_REFLEXIVE);
   // The accusative may be no more than the default.
   if (s.record.cases() == 0 || s.record.cases() == GRAM_ACCUSATIVE) s.set_cases_if_any();
   s.default_case(GRAM_ACCUSATIVE);
-  if (const std::uint8_t third = s.get(field::third_cases); third != 0) {
+  if (const std::uint8_t third = s.get(field::kThirdCases); third != 0) {
     s.record.second_cases() = third;
   }
 }
@@ -153,7 +152,7 @@ void particle(MapSteps& s) {
   s.set_aspect_by_K();
 }
 
-constexpr MapRules rules({
+constexpr MapRules kRules({
     {"#Nin", noun},
     {U"ADadн"_1251, adjective},
     {"LMOQRSlmoqrs", pronoun},
@@ -173,9 +172,9 @@ constexpr MapRules rules({
 }  // namespace kz
 
 void er_set_rgram(std::uint8_t* record, std::int16_t code) {
-  kz::er::rules.apply(record, &WordRecordView::russian_gram, code);
+  kz::er::kRules.apply(record, &WordRecordView::russian_gram, code);
 }
 
 void re_set_rgram(std::uint8_t* record, std::int16_t code) {
-  kz::re::rules.apply(record, &WordRecordView::russian_gram, code);
+  kz::re::kRules.apply(record, &WordRecordView::russian_gram, code);
 }

@@ -8,19 +8,19 @@
 namespace kz {
 
 bool MapSteps::set_noun_number(bool plural_code) const {
-  if (has(flag::singular) && has(flag::plural)) {
+  if (has(flag::kSingular) && has(flag::kPlural)) {
     record.number() = 2;
-  } else if (plural_code || has(flag::plural) || has(flag::no_singular)) {
+  } else if (plural_code || has(flag::kPlural) || has(flag::kNoSingular)) {
     record.number() = 1;
     return true;
-  } else if (has(flag::singular) || has(flag::no_plural)) {
+  } else if (has(flag::kSingular) || has(flag::kNoPlural)) {
     record.number() = 0;
   }
   return false;
 }
 
 void MapSteps::set_aspect() const {
-  if (has(flag::perfective) != has(flag::imperfective)) record.aspect() = has(flag::perfective);
+  if (has(flag::kPerfective) != has(flag::kImperfective)) record.aspect() = has(flag::kPerfective);
 }
 
 void MapSteps::set_verb_flag(Flag flag, WordVerbFlag verb_flag) const {
@@ -37,24 +37,24 @@ void MapSteps::er_verb() const {
   set_gender();
   default_person();
   set_cases_if_any();
-  if_has(flag::perfective_mark, record.aspect(), 1);
-  if_has(flag::verb_V, record.v_flag(), 1);
-  set_verb_flag(flag::reflexive_mark, WORD_VERB_REFLEXIVE);
-  set_verb_flag(flag::imperative, WORD_VERB_IMPERATIVE);
-  if (has(flag::past)) set_default(record.tense(), 1);
+  if_has(flag::kPerfectiveMark, record.aspect(), 1);
+  if_has(flag::kVerbV, record.v_flag(), 1);
+  set_verb_flag(flag::kReflexiveMark, WORD_VERB_REFLEXIVE);
+  set_verb_flag(flag::kImperative, WORD_VERB_IMPERATIVE);
+  if (has(flag::kPast)) set_default(record.tense(), 1);
   set_future();
 }
 
 void MapSteps::re_verb() const {
   set_H_flag();
-  if (has(flag::plural)) set_default(record.number(), has(flag::singular) ? 2 : 1);
+  if (has(flag::kPlural)) set_default(record.number(), has(flag::kSingular) ? 2 : 1);
   set_default(record.gender(), gender());
   default_person();
-  if_has(flag::perfective_mark, record.aspect(), 1);
-  if_has(flag::verb_V, record.v_flag(), 1);
-  set_verb_flag(flag::reflexive_mark, WORD_VERB_REFLEXIVE);
-  set_verb_flag(flag::imperative, WORD_VERB_IMPERATIVE);
-  set_verb_flag(flag::verb_U, WORD_VERB_U);
+  if_has(flag::kPerfectiveMark, record.aspect(), 1);
+  if_has(flag::kVerbV, record.v_flag(), 1);
+  set_verb_flag(flag::kReflexiveMark, WORD_VERB_REFLEXIVE);
+  set_verb_flag(flag::kImperative, WORD_VERB_IMPERATIVE);
+  set_verb_flag(flag::kVerbU, WORD_VERB_U);
   set_past();
   set_future();
 }

@@ -9,55 +9,21 @@
 #include <string_view>
 
 #include "grammar/fields.h"
+#include "grammar/flags.h"
 #include "kz/gram_map.h"
 
 namespace kz {
-
-// A bit of a GRAMINFO. Those without a meaning to the library are named by their tag letter.
-struct Flag {
-  std::uint8_t word;
-  std::uint32_t mask;
-};
-
-namespace flag {
-
-inline constexpr Flag singular{1, GRAM_SINGULAR};
-inline constexpr Flag plural{1, GRAM_PLURAL};
-inline constexpr Flag no_plural{1, GRAM_NO_PLURAL};
-inline constexpr Flag no_singular{1, GRAM_NO_SINGULAR};
-inline constexpr Flag perfective_mark{1, GRAM_PERFECTIVE_MARK};
-inline constexpr Flag past{1, GRAM_PAST};
-inline constexpr Flag verb_V{1, 1u << 11};
-inline constexpr Flag imperative{1, GRAM_IMPERATIVE};
-inline constexpr Flag future{1, GRAM_FUTURE};
-inline constexpr Flag verb_U{1, 1u << 15};
-inline constexpr Flag reflexive_mark{1, GRAM_REFLEXIVE_MARK};
-inline constexpr Flag perfective{1, GRAM_PERFECTIVE};
-inline constexpr Flag imperfective{1, GRAM_IMPERFECTIVE};
-inline constexpr Flag reflexive{1, GRAM_REFLEXIVE};
-inline constexpr Flag verb_X{1, 1u << 29};
-inline constexpr Flag verb_n{2, 1u << 7};
-inline constexpr Flag tag_K{4, 1u << 7};
-inline constexpr Flag never_perfective{4, GRAM_NEVER_PERFECTIVE};
-inline constexpr Flag verb_no_V{4, 1u << 19};
-inline constexpr Flag passive{4, GRAM_PASSIVE};
-inline constexpr Flag verb_O{4, 1u << 27};
-inline constexpr Flag verb_p{5, 1u << 7};
-inline constexpr Flag adjective_no_H{5, 1u << 24};
-inline constexpr Flag tag_H{5, 1u << 31};
-
-}  // namespace flag
 
 struct MapSteps {
   WordRecordView record;
   GRAMINFO gram;  // a copy: the record's own stands at any address
   unsigned char code;
 
-  bool has(Flag flag) const { return (gram.word[flag.word] & flag.mask) != 0; }
+  bool has(Flag flag) const { return flag.is_set(gram); }
   std::uint8_t get(const Field& field) const { return static_cast<std::uint8_t>(field.get(gram)); }
-  std::uint8_t gender() const { return get({1, 0, 2}); }
-  std::uint8_t cases() const { return get(field::cases); }
-  std::uint8_t person() const { return get(field::person); }
+  std::uint8_t gender() const { return get(field::kGender); }
+  std::uint8_t cases() const { return get(field::kCases); }
+  std::uint8_t person() const { return get(field::kPerson); }
 
   // The field of the word record becomes `value` if the grammar has the flag.
   void if_has(Flag flag, std::uint8_t& field, std::uint8_t value) const {
@@ -68,10 +34,10 @@ struct MapSteps {
   }
 
   void set_number() const {
-    if_has(flag::singular, record.number(), 0);
-    if_has(flag::plural, record.number(), 1);
+    if_has(flag::kSingular, record.number(), 0);
+    if_has(flag::kPlural, record.number(), 1);
   }
-  void set_plural() const { if_has(flag::plural, record.number(), 1); }
+  void set_plural() const { if_has(flag::kPlural, record.number(), 1); }
   // The number of a noun, which is also told by the form it lacks. Returns whether the noun is
   // plural alone, as `plural_code` makes every noun that has not both numbers.
   bool set_noun_number(bool plural_code = false) const;
@@ -85,15 +51,15 @@ struct MapSteps {
   void set_person() const { record.person() = person(); }
   void set_person_or_third() const { record.person() = person() != 0 ? person() : 3; }
   void default_person() const { set_default(record.person(), person()); }
-  void set_past() const { if_has(flag::past, record.tense(), 1); }
-  void set_future() const { if_has(flag::future, record.tense(), 2); }
+  void set_past() const { if_has(flag::kPast, record.tense(), 1); }
+  void set_future() const { if_has(flag::kFuture, record.tense(), 2); }
   // Perfective or imperfective; a verb with both bits or none keeps the aspect it has.
   void set_aspect() const;
-  void set_aspect_by_K() const { if_has(flag::tag_K, record.aspect(), 1); }
-  void set_H_flag() const { if_has(flag::tag_H, record.h_flag(), 1); }
+  void set_aspect_by_K() const { if_has(flag::kK, record.aspect(), 1); }
+  void set_H_flag() const { if_has(flag::kH, record.h_flag(), 1); }
   void set_verb_flag(Flag flag, WordVerbFlag verb_flag) const;
   void clear_reflexive() const;
-  void set_paradigm_number() const { record.set_paradigm_number(field::paradigm_number.get(gram)); }
+  void set_paradigm_number() const { record.set_paradigm_number(field::kParadigmNumber.get(gram)); }
 
   // The whole summaries of a verb.
   void er_verb() const;

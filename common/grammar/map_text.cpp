@@ -1,11 +1,10 @@
 // Grammar read from a translation's text into the word record; equivalents within a text.
-#include <cstddef>
 #include <cstring>
 #include <string_view>
 
-#include "grammar/tags.h"
 #include "kz/gram_codec.h"
 #include "kz/gram_map.h"
+#include "text/case_letters.h"
 #include "text/char_classes.h"
 
 namespace kz {
@@ -40,9 +39,9 @@ const char* behind(char c, const char* text) { return *text == c ? text + 1 : te
 // that a preposition asks for: it leaves the field empty.
 const char* read_case(const char* text, WordRecordView word) {
   for (;; ++text) {
-    const std::size_t i = case_letters.find(*text);
-    if (i == std::string_view::npos) return text;
-    word.cases() = static_cast<std::uint8_t>((1u << i) & ~unsigned{GRAM_NOMINATIVE});
+    const unsigned one = case_of(*text);
+    if (one == 0) return text;
+    word.cases() = static_cast<std::uint8_t>(one & ~unsigned{GRAM_NOMINATIVE});
   }
 }
 
@@ -107,19 +106,19 @@ const char* re_get_egram_gt(const char* text, std::uint8_t* record) {
 
 int xv_syn(int code) {
   const auto c = static_cast<unsigned char>(code);
-  constexpr std::string_view verbal = "EGVZegv";
-  return verbal.find(static_cast<char>(c)) != std::string_view::npos ? 'V' : c;
+  constexpr std::string_view kVerbal = "EGVZegv";
+  return kVerbal.find(static_cast<char>(c)) != std::string_view::npos ? 'V' : c;
 }
 
 const char* get_equ(const char* text, const char* key) {
   if (text == nullptr || key == nullptr || *text == '\0') return nullptr;
   if (const char* const found = std::strstr(text, key)) return found + 1;
-  constexpr kz::CharClass capital = kz::char_class::ascii_upper | kz::char_class::ru_ansi_upper;
+  constexpr kz::CharClass kCapital = kz::char_class::ascii_upper | kz::char_class::ru_ansi_upper;
   for (; *text != '\0'; ++text) {
     if (*text == '{' || *text == '[') {
       text = std::strchr(text, *text == '{' ? '}' : ']');
       if (text == nullptr) return nullptr;
-    } else if (*text == *key || kz::is_in(*text, capital)) {
+    } else if (*text == *key || kz::is_in(*text, kCapital)) {
       return text;
     }
   }

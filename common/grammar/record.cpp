@@ -2,14 +2,11 @@
 #include "kz/gram_record.h"
 
 #include "grammar/fields.h"
+#include "grammar/flags.h"
 #include "kz/gram_attr.h"
 
-using kz::field::cases;
-using kz::field::code;
-using kz::field::paradigm_base;
-using kz::field::paradigm_number;
-using kz::field::person;
-using kz::field::third_cases;
+namespace field = kz::field;
+namespace flag = kz::flag;
 
 CGramInfo::CGramInfo() : gram_{}, semantics_{} {}
 
@@ -49,62 +46,58 @@ void CGramInfo::SetParadigmInfo(int16_t number, int16_t base, char letter) {
 }
 
 uint32_t CGramInfo::MakeParadigm() const {
-  return ::MakeParadigm(static_cast<int16_t>(paradigm_number.get(gram_)),
-                        static_cast<int8_t>(paradigm_base.get(gram_)));
+  return ::MakeParadigm(static_cast<int16_t>(field::kParadigmNumber.get(gram_)),
+                        static_cast<int8_t>(field::kParadigmBase.get(gram_)));
 }
 
 int16_t CGramInfo::GetNumber() const {
-  constexpr uint32_t both = GRAM_SINGULAR | GRAM_PLURAL;
-  if ((gram_.word[1] & both) == both) return 2;
-  return (gram_.word[1] & (GRAM_PLURAL | GRAM_NO_SINGULAR)) != 0;
+  if (flag::kSingular.is_set(gram_) && flag::kPlural.is_set(gram_)) return 2;
+  return flag::kPlural.is_set(gram_) || flag::kNoSingular.is_set(gram_);
 }
 
 void CGramInfo::SetNumber(int16_t number) {
   if (number < 0 || number > 2) return;
-  uint32_t& bits = gram_.word[1];
-  if (number == 0) bits &= ~uint32_t{GRAM_PLURAL};
-  if (number == 1) bits &= ~uint32_t{GRAM_SINGULAR};
-  if (number != 0 && (bits & GRAM_NO_PLURAL) == 0) bits |= GRAM_PLURAL;
-  if (number != 1 && (bits & GRAM_NO_SINGULAR) == 0) bits |= GRAM_SINGULAR;
+  if (number == 0) flag::kPlural.clear(gram_);
+  if (number == 1) flag::kSingular.clear(gram_);
+  if (number != 0 && !flag::kNoPlural.is_set(gram_)) flag::kPlural.set(gram_);
+  if (number != 1 && !flag::kNoSingular.is_set(gram_)) flag::kSingular.set(gram_);
 }
 
 void CGramInfo::SetGender(int16_t gender) {
-  constexpr uint32_t bits_of[] = {GRAM_NEUTER, GRAM_MASCULINE, GRAM_FEMININE,
+  constexpr uint32_t kBitsOf[] = {GRAM_NEUTER, GRAM_MASCULINE, GRAM_FEMININE,
                                   GRAM_MASCULINE | GRAM_FEMININE};
-  if (gender >= 0 && gender <= 3) gram_.word[1] |= bits_of[gender];
+  if (gender >= 0 && gender <= 3) gram_.word[1] |= kBitsOf[gender];
 }
 
-int16_t CGramInfo::GetGender() const {
-  return static_cast<int16_t>(gram_.word[1] & (GRAM_MASCULINE | GRAM_FEMININE));
-}
+int16_t CGramInfo::GetGender() const { return static_cast<int16_t>(field::kGender.get(gram_)); }
 
 int16_t CGramInfo::GetGender1() const {
   const int16_t gender = GetGender();
   return gender == 3 ? int16_t{1} : gender;
 }
 
-char CGramInfo::GetSyn() const { return static_cast<char>(code.get(gram_)); }
+char CGramInfo::GetSyn() const { return static_cast<char>(field::kCode.get(gram_)); }
 
-int16_t CGramInfo::GetPerson() const { return static_cast<int16_t>(person.get(gram_)); }
+int16_t CGramInfo::GetPerson() const { return static_cast<int16_t>(field::kPerson.get(gram_)); }
 
-char CGramInfo::GetCase() const { return static_cast<char>(cases.get(gram_)); }
+char CGramInfo::GetCase() const { return static_cast<char>(field::kCases.get(gram_)); }
 
-char CGramInfo::GetCase2() const { return static_cast<char>(third_cases.get(gram_)); }
+char CGramInfo::GetCase2() const { return static_cast<char>(field::kThirdCases.get(gram_)); }
 
-int16_t CGramInfo::GetTensePast() const { return (gram_.word[1] & GRAM_PAST) != 0; }
+int16_t CGramInfo::GetTensePast() const { return flag::kPast.is_set(gram_); }
 
-int16_t CGramInfo::GetTensePresent() const { return (gram_.word[1] & GRAM_PRESENT) != 0; }
+int16_t CGramInfo::GetTensePresent() const { return flag::kPresent.is_set(gram_); }
 
-int16_t CGramInfo::GetTenseFuture() const { return (gram_.word[1] & GRAM_FUTURE) != 0; }
+int16_t CGramInfo::GetTenseFuture() const { return flag::kFuture.is_set(gram_); }
 
 int16_t CGramInfo::IsPerfective() const {
-  if ((gram_.word[4] & GRAM_NEVER_PERFECTIVE) != 0) return 0;
-  if ((gram_.word[1] & GRAM_PERFECTIVE_MARK) != 0) return 1;
-  return (gram_.word[1] & (GRAM_PERFECTIVE | GRAM_IMPERFECTIVE)) == GRAM_PERFECTIVE;
+  if (flag::kNeverPerfective.is_set(gram_)) return 0;
+  if (flag::kPerfectiveMark.is_set(gram_)) return 1;
+  return flag::kPerfective.is_set(gram_) && !flag::kImperfective.is_set(gram_);
 }
 
 int16_t CGramInfo::IsReflexive() const {
-  return (gram_.word[1] & (GRAM_REFLEXIVE_MARK | GRAM_REFLEXIVE)) != 0;
+  return flag::kReflexiveMark.is_set(gram_) || flag::kReflexive.is_set(gram_);
 }
 
 CWordGram::CWordGram() = default;

@@ -5,10 +5,10 @@
 #include <bit>
 #include <cstddef>
 #include <span>
-#include <string_view>
 
 #include "text/base_letters.h"
 #include "text/byte_map.h"
+#include "text/case_letters.h"
 #include "text/case_maps.h"
 #include "text/language.h"
 #include "text/literal.h"
@@ -85,9 +85,6 @@ const DigraphTable* notation_of(const char* language) {
   return nullptr;
 }
 
-// Initials of the Russian case names, from the mask's lowest bit on.
-constexpr std::string_view case_initials = U"ИРДВТП"_1251;
-
 }  // namespace
 }  // namespace kz
 
@@ -126,8 +123,8 @@ int16_t x_case(unsigned mask) {
 }
 
 char* c_case(int mask, char* out) {
-  for (std::size_t i = 0; i < kz::case_initials.size(); ++i) {
-    if ((mask >> i & 1) != 0) *out++ = kz::case_initials[i];
+  for (std::size_t i = 0; i < kz::kCaseLetters.size(); ++i) {
+    if ((mask >> i & 1) != 0) *out++ = kz::kCaseLetters[i];
   }
   return out;
 }
