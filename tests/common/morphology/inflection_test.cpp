@@ -1,18 +1,20 @@
 // Inflection tables: both file forms, damaged files, look-ups beside a slow reference.
 #include "kz/inflection.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
-#include <compare>
 #include <cstring>
 #include <filesystem>
 #include <iterator>
 #include <map>
 #include <random>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "kz/file.h"
@@ -24,42 +26,19 @@ using kz::operator""_1251;
 
 namespace {
 
+// Lines that are skipped or rejected among others, and an ending twice.
 constexpr std::string_view kTable =
-    U"* окончания\r\n"
-    U"\r\n"
-    U"стол NM 12 D1 | NMa\r\n"
-    U"ами\tNF VT 65537a Z_C\r\n"
-    U"и Nf | no 3 | 7b D2 D3 NM | AqyY | V\r\n"
-    U"ый | NM + NF\r\n"
-    U"лишь\r\n"
-    U" ой NM\r\n"
-    U"Wort N\r\n"
-    U"ё NMa |\r\n"
-    U"и NF\n"_1251;
+    U"* окончания\r\n\r\nстол NM 12 D1 | NMa\r\nами\tNF VT 65537a Z_C\r\nи V\r\nый | NM + NF\r\n"
+    U"лишь\r\n ой NM\r\nWort N\r\nё NMa |\r\nи NF\n"_1251;
 
-struct Entry {
-  std::string ending;
-  std::vector<std::array<std::uint32_t, 2>> records;
-  auto operator<=>(const Entry&) const = default;
-};
-
-Entry entry_of(const CGrSrcWordObj& object) {
-  Entry entry{object.ending, {}};
-  for (int i = 0; i < object.count; ++i) {
-    entry.records.push_back({object.attributes[i][0], object.attributes[i][1]});
-  }
-  return entry;
-}
-
-std::vector<Entry> sorted(std::vector<Entry> entries) {
-  std::sort(entries.begin(), entries.end());
-  return entries;
-}
+using Records = std::vector<std::array<std::uint32_t, 2>>;
+using Entry = std::pair<std::string, Records>;  // by ending
 
 std::vector<Entry> entries_of(CGrSrcWordFlex& table) {
   std::vector<Entry> entries;
   for (const CGrSrcWordObj* at = table.GetFirstFlex(); at; at = table.GetNextFlex()) {
-    entries.push_back(entry_of(*at));
+    Records& records = entries.emplace_back(at->ending, Records(at->count)).second;
+    std::memcpy(records.data(), at->attributes, at->count * sizeof records[0]);
   }
   EXPECT_EQ(table.GetNextFlex(), nullptr);
   return entries;
@@ -80,81 +59,72 @@ class InflectionTest : public testing::Test {
   std::int16_t load(CGrSrcWordFlex& table, std::int16_t flag = 1) const {
     return table.Load("ru.Dat", dir_.file("").c_str(), flag);
   }
+  // Loads a compiled table without a text beside it: refused, or every entry can be written.
+  int load_alone(const std::string& contents) const {
+    write("alone.Dat", contents);
+    Table table;
+    const int result = table.Load("alone.Dat", dir_.file("").c_str(), 1);
+    const std::vector<Entry> entries = entries_of(table);
+    EXPECT_TRUE(result == 0 || (result == 195 && entries.empty()));
+    for (const auto& [ending, records] : entries) {
+      char text[GR_SRC_FLEX_STRING_SIZE];
+      EXPECT_LT(std::strlen(table.FindStrAttr(ending.c_str(), text, 0)), sizeof text);
+    }
+    return result;
+  }
 
   kz::test::TempDir dir_;
 };
 
-std::string attributes(const char* line) {
-  Table table;
-  std::array<char, GR_SRC_FLEX_STRING_SIZE> text;
-  EXPECT_EQ(table.GetWord(line), 1);
-  return table.GetStrAttr(table.GetFirstFlex(), text.data());
-}
-
-TEST_F(InflectionTest, ALineOfTheTextGivesItsRecords) {
-  write("ru.txt", kTable);
-  Table table;
-  ASSERT_EQ(load(table), 0);
-  std::map<std::string, Entry> entries;
-  for (const Entry& entry : entries_of(table)) entries[entry.ending] = entry;
-
-  const std::vector<Entry> expected = {
-      {std::string(U"стол"_1251), {{1 | 1 << 16, 12}, {2, 0}}},
-      {std::string(U"ами"_1251), {{3 | 8 << 8 | 10 << 16, 1 | 'a' << 16}}},
-      {std::string(U"и"_1251), {{3, 0}}},
-      {std::string(U"ый"_1251), {{0, 0}, {1, 0}}},
-      {"Wort", {{7, 0}}},
-      {std::string(U"ё"_1251), {{2, 0}, {0, 0}}},
-  };
-  EXPECT_EQ(entries.size(), expected.size());
-  for (const Entry& entry : expected) EXPECT_EQ(entries[entry.ending], entry) << entry.ending;
-}
-
-TEST_F(InflectionTest, RecordsEndWithTheFourthAndFieldsAreReplaced) {
-  Table table;
-  ASSERT_EQ(table.GetWord("x Nf | no 3 | 7b D2 D3 9 D4 NM | AqyY | V"), 1);
-  const Entry expected = {"x", {{255, 0}, {255, 3}, {4 << 16, 9}, {21, 0}}};
-  EXPECT_EQ(entry_of(*table.GetFirstFlex()), expected);
-}
-
-TEST_F(InflectionTest, LinesWithoutAttributesOrWithALongEndingAreRejected) {
-  Table table;
-  const std::string longest(79, 'a');
-  EXPECT_EQ(table.GetWord((longest + "a NM").c_str()), 0);
-  EXPECT_EQ(table.GetWord("ab \t"), 0);
-  EXPECT_EQ(table.GetWord(""), 0);
-  EXPECT_EQ(table.GetWord(nullptr), 0);
-  EXPECT_EQ(table.GetFirstFlex(), nullptr);
-  EXPECT_EQ(table.GetWord((longest + " NM").c_str()), 1);
-  EXPECT_EQ(table.Find(("b" + longest).c_str(), 0)->ending, longest);
-}
-
-TEST(Inflection, AttributesAreWrittenAsTheTextHasThem) {
-  const auto line = U"стол NM 12 D1 | NMa"_1251;
-  EXPECT_EQ(attributes(line.data()), std::string(line) + " ");
-  EXPECT_EQ(attributes("ed V1 VT 40000a D2_i | V2 Z | 3 D4 | V"), "ed V1 VT 40000 D2_i | V2 ? ");
-  EXPECT_EQ(attributes("ed X Y Z"), "ed ? ? ?");
-  EXPECT_EQ(attributes("ed +"), "");
-
+TEST(Inflection, ALineOfTheTextGivesItsRecordsAndTheyAreWrittenBack) {
   // The longest text just fits the documented room.
-  std::array<std::string, 3> longest;
-  for (std::int16_t kind = 0; kind < 3; ++kind) {
-    for (std::int16_t i = 1; const char* name = GetAttrNameStr(kind, i); ++i) {
-      if (std::strlen(name) > longest[static_cast<std::size_t>(kind)].size()) {
-        longest[static_cast<std::size_t>(kind)] = name;
-      }
+  std::string record;
+  Records longest(4, {0, 65535});
+  for (const std::int16_t kind : {std::int16_t{0}, std::int16_t{1}, std::int16_t{2}}) {
+    std::string name;
+    for (std::int16_t i = 1; const char* other = GetAttrNameStr(kind, i); ++i) {
+      if (std::strlen(other) > name.size()) name = other;
     }
+    record += (kind == 2 ? " 65535 " : " ") + name;
+    const auto index = static_cast<std::uint32_t>(GetAttrNameIndex(kind, name.c_str()));
+    for (auto& words : longest) words[0] |= index << kind * 8;
   }
-  const std::string record = longest[0] + ' ' + longest[1] + " 65535 " + longest[2];
   const std::string all =
-      std::string(79, 'x') + ' ' + record + " | " + record + " | " + record + " | " + record;
-  EXPECT_EQ(attributes(all.c_str()), all);
+      std::string(79, 'x') + record + " |" + record + " |" + record + " |" + record;
   EXPECT_EQ(all.size() + 1, std::size_t{GR_SRC_FLEX_STRING_SIZE});
 
-  Table table;
-  char text[] = "old";
-  EXPECT_EQ(table.GetStrAttr(nullptr, text), nullptr);
-  EXPECT_STREQ(text, "");
+  const struct {
+    std::string line;
+    Records records;  // none: the line is rejected
+    std::string written;
+  } rows[] = {{std::string(U"стол NM 12 D1 | NMa"_1251),
+               {{1 | 1 << 16, 12}, {2, 0}},
+               std::string(U"стол NM 12 D1 | NMa "_1251)},
+              {std::string(U"ами\tNF VT 65537a Z_C"_1251),
+               {{3 | 8 << 8 | 10 << 16, 1 | 'a' << 16}},
+               std::string(U"ами NF VT 1 Z_C"_1251)},
+              {std::string(U"ый | NM + NF"_1251), {{0, 0}, {1, 0}}, ""},
+              {std::string(U"ё NMa |"_1251), {{2, 0}, {0, 0}}, std::string(U"ё NMa "_1251)},
+              {"x Nf | no 3 | 7b D2 D3 9 D4 NM | AqyY | V",
+               {{255, 0}, {255, 3}, {4 << 16, 9}, {21, 0}},
+               "x ?  | ? 3 "},
+              {"x NM no 40000 q", {{1 | 63 << 8 | 255 << 16, 40000}}, "x NM ? 40000 ?"},
+              {all, longest, all},
+              {std::string(80, 'a') + " NM", {}, ""},
+              {"ab \t", {}, ""},
+              {"", {}, ""}};
+  for (const auto& [line, records, written] : rows) {
+    Table table;
+    char text[GR_SRC_FLEX_STRING_SIZE] = "old";
+    EXPECT_EQ(table.GetWord(line.c_str()), records.empty() ? 0 : 1) << line;
+    const std::string ending = line.substr(0, line.find_first_of(" \t"));
+    const auto wanted =
+        records.empty() ? std::vector<Entry>{} : std::vector<Entry>{{ending, records}};
+    EXPECT_EQ(entries_of(table), wanted) << line;
+    EXPECT_EQ(table.FindStrAttr(('b' + ending).c_str(), text, 0), records.empty() ? nullptr : text);
+    EXPECT_EQ(text, written);
+  }
+  EXPECT_EQ(Table().GetWord(nullptr), 0);
 }
 
 // The compiled form, written by its own description.
@@ -162,15 +132,14 @@ std::string compiled(const std::vector<Entry>& entries) {
   std::string file;
   file += static_cast<char>(entries.size());
   file += static_cast<char>(entries.size() >> 8);
-  for (const Entry& entry : entries) {
-    file += static_cast<char>(entry.records.size());
-    for (const auto& record : entry.records) {
-      for (const std::uint32_t word : record) {
-        for (int shift = 0; shift < 32; shift += 8) file += static_cast<char>(word >> shift);
-      }
+  for (const auto& [ending, records] : entries) {
+    file += static_cast<char>(records.size());
+    for (const auto& [first, second] : records) {
+      for (int shift = 0; shift < 32; shift += 8) file += static_cast<char>(first >> shift);
+      for (int shift = 0; shift < 32; shift += 8) file += static_cast<char>(second >> shift);
     }
-    file += static_cast<char>(entry.ending.size());
-    for (const char c : entry.ending) file += static_cast<char>(c ^ '~');
+    file += static_cast<char>(ending.size());
+    for (const char c : ending) file += static_cast<char>(c ^ '~');
   }
   return file;
 }
@@ -180,6 +149,8 @@ TEST_F(InflectionTest, TheFirstLoadCompilesTheTableAndLaterOnesReadThat) {
   Table first;
   ASSERT_EQ(load(first), 0);
   const std::vector<Entry> entries = entries_of(first);
+  EXPECT_EQ(entries.size(), 6u);
+  EXPECT_EQ(first.Find(U"и"_1251.data(), 0)->attributes[0][0], 3u) << "the later line";
   EXPECT_EQ(first.GetFirstFlex()->length, std::strlen(first.GetFirstFlex()->ending));
   EXPECT_EQ(read("ru.Dat"), compiled(entries));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.file("")), {}), 2);
@@ -187,7 +158,7 @@ TEST_F(InflectionTest, TheFirstLoadCompilesTheTableAndLaterOnesReadThat) {
   std::filesystem::remove(dir_.file("ru.txt"));
   Table second;
   ASSERT_EQ(load(second), 0);
-  EXPECT_EQ(sorted(entries_of(second)), sorted(entries));
+  EXPECT_THAT(entries_of(second), testing::UnorderedElementsAreArray(entries));
   EXPECT_EQ(second.GetFirstFlex()->length, std::strlen(second.GetFirstFlex()->ending));
 }
 
@@ -197,46 +168,23 @@ TEST_F(InflectionTest, ADamagedCompiledTableIsMadeAnewOrRefused) {
   ASSERT_EQ(load(whole), 0);
   const std::vector<Entry> entries = entries_of(whole);
   const std::string good = read("ru.Dat");
-
   for (std::size_t length = 0; length < good.size(); ++length) {
-    write("alone.Dat", good.substr(0, length));
-    Table alone;
-    ASSERT_EQ(alone.Load("alone.Dat", dir_.file("").c_str(), 1), 195) << length;
-    ASSERT_EQ(alone.GetFirstFlex(), nullptr) << length;
+    ASSERT_EQ(load_alone(good.substr(0, length)), 195) << length;
     if (length % 64 != 0) continue;
-
     write("ru.Dat", good.substr(0, length));
     Table healed;
     ASSERT_EQ(load(healed), 0) << length;
     ASSERT_EQ(entries_of(healed), entries) << length;
     ASSERT_EQ(read("ru.Dat"), good) << length;
   }
-
-  int refused = 0;
-  for (std::size_t i = 0; i < good.size(); ++i) {
-    for (int bit = 0; bit < 8; ++bit) {
-      std::string damaged = good;
-      damaged[i] = static_cast<char>(damaged[i] ^ 1 << bit);
-      write("alone.Dat", damaged);
-      Table alone;
-      const int result = alone.Load("alone.Dat", dir_.file("").c_str(), 1);
-      const std::vector<Entry> found = entries_of(alone);
-      ASSERT_TRUE(result == 0 || (result == 195 && found.empty())) << i;
-      refused += result != 0 ? 1 : 0;
-      for (const Entry& entry : found) {
-        std::array<char, GR_SRC_FLEX_STRING_SIZE> text;
-        ASSERT_LE(std::strlen(alone.FindStrAttr(entry.ending.c_str(), text.data(), 0)), 221u);
-      }
-    }
+  for (std::size_t i = 0; i < good.size() * 8; ++i) {
+    std::string damaged = good;
+    damaged[i / 8] = static_cast<char>(damaged[i / 8] ^ 1 << i % 8);
+    load_alone(damaged);
   }
-  EXPECT_GT(refused, 0);
-
-  write("alone.Dat", compiled({{"ed", {}}}));
-  EXPECT_EQ(Table().Load("alone.Dat", dir_.file("").c_str(), 1), 195);
-  write("alone.Dat", compiled({{"ed", {{1, 0}, {1, 0}, {1, 0}, {1, 0}, {1, 0}}}}));
-  EXPECT_EQ(Table().Load("alone.Dat", dir_.file("").c_str(), 1), 195);
-  write("alone.Dat", compiled({{std::string(80, 'e'), {{1, 0}}}}));
-  EXPECT_EQ(Table().Load("alone.Dat", dir_.file("").c_str(), 1), 195);
+  EXPECT_EQ(load_alone(compiled({{"ed", {}}})), 195);
+  EXPECT_EQ(load_alone(compiled({{"ed", {{1, 0}, {1, 0}, {1, 0}, {1, 0}, {1, 0}}}})), 195);
+  EXPECT_EQ(load_alone(compiled({{std::string(80, 'e'), {{1, 0}}}})), 195);
 }
 
 TEST_F(InflectionTest, LoadFindsItsFilesOrSays195) {
@@ -250,9 +198,8 @@ TEST_F(InflectionTest, LoadFindsItsFilesOrSays195) {
   write("x.Dat.txt", "es NM\n");
   Table table;
   EXPECT_EQ(table.Load("x.Dat.Dat", dir_.file("").c_str(), 1), 0);
-  EXPECT_EQ(entries_of(table).size(), 1u);
   EXPECT_EQ(load(table), 0);  // holds entries already
-  EXPECT_EQ(entries_of(table)[0].ending, "es");
+  EXPECT_EQ(entries_of(table), (std::vector<Entry>{{"es", {{1, 0}}}}));
 }
 
 TEST_F(InflectionTest, ATableThatCannotBeWrittenStaysInMemory) {
@@ -272,36 +219,28 @@ TEST_F(InflectionTest, ATableThatCannotBeWrittenStaysInMemory) {
 }
 
 TEST_F(InflectionTest, WithFlagZeroTheFirstLookUpLoads) {
-  Table never;
+  Table never, finds, iterates, late, failed, failed_unflagged;
   EXPECT_EQ(never.Find("bed", 0), nullptr);
+  ASSERT_EQ(load(failed, 1), 195);
+  ASSERT_EQ(load(failed_unflagged, 0), 195);
 
   write("ru.txt", "ed V\n");
-  Table finds;
   ASSERT_EQ(load(finds, 0), 0);
   EXPECT_FALSE(exists("ru.Dat"));
   ASSERT_NE(finds.Find("bed", 0), nullptr);
   EXPECT_TRUE(exists("ru.Dat"));
-  Table iterates;
   ASSERT_EQ(load(iterates, 0), 0);
   EXPECT_NE(iterates.GetFirstFlex(), nullptr);
+  EXPECT_NE(failed.Find("bed", 0), nullptr);
+  EXPECT_EQ(failed_unflagged.Find("bed", 0), nullptr);
 
-  std::filesystem::remove(dir_.file("ru.Dat"));
-  Table late;
+  // A look-up that fails to load is the last that tries.
   ASSERT_EQ(load(late, 0), 0);
-  std::filesystem::remove(dir_.file("ru.txt"));
+  for (const char* name : {"ru.Dat", "ru.txt"}) std::filesystem::remove(dir_.file(name));
   EXPECT_EQ(late.Find("bed", 0), nullptr);
   write("ru.txt", "ed V\n");
   EXPECT_EQ(late.Find("bed", 0), nullptr);
   EXPECT_EQ(late.GetFirstFlex(), nullptr);
-
-  std::filesystem::remove(dir_.file("ru.txt"));
-  Table failed;
-  Table failed_unflagged;
-  ASSERT_EQ(load(failed, 1), 195);
-  ASSERT_EQ(load(failed_unflagged, 0), 195);
-  write("ru.txt", "ed V\n");
-  EXPECT_NE(failed.Find("bed", 0), nullptr);
-  EXPECT_EQ(failed_unflagged.Find("bed", 0), nullptr);
 }
 
 TEST_F(InflectionTest, TheCountOfTheCompiledFormIsUnsignedAndBounded) {
@@ -327,42 +266,34 @@ TEST_F(InflectionTest, TheCountOfTheCompiledFormIsUnsignedAndBounded) {
 }
 
 // The look-up by the rules, one step after the other.
-class SlowTable {
- public:
-  void add(const std::string& ending, bool has_attributes) {
-    const unsigned char first = static_cast<unsigned char>(ending.front());
-    const int place = place_of(ending.back());
-    if ((first >= 224 || first == U'ё'_1251) && place >= 0) {
-      longest_[place] = std::max(longest_[place], ending.size());
-    }
-    if (has_attributes) endings_[ending] = true;
+struct SlowTable {
+  std::set<std::string> endings;
+  std::map<char, std::size_t>
+      longest;  // by the final letter, of endings that begin with a small one
+
+  static bool is_small(char c) {
+    return U"абвгдеёжзийклмнопрстуфхцчшщъыьэюя"_1251.find(c) != std::string_view::npos;
+  }
+  static char final_letter(const std::string& word) {
+    return word.back() == static_cast<char>(U'ё'_1251) ? static_cast<char>(U'е'_1251) : word.back();
   }
 
-  std::string find(const std::string& word) const {
-    if (word.empty() || word.find(' ') != std::string::npos) return "";
-    if (endings_.contains(word)) return word;
-    const int place = place_of(word.back());
-    std::size_t skip = 0;
-    if (place >= 0 && longest_.contains(place) && longest_.at(place) < word.size()) {
-      skip = word.size() - longest_.at(place);
-    }
-    if (place >= 0 && !longest_.contains(place)) skip = word.size();
-    for (; skip < word.size(); ++skip) {
-      if (endings_.contains(word.substr(skip))) return word.substr(skip);
+  void add(const std::string& ending, bool has_attributes) {
+    std::size_t& length = longest[final_letter(ending)];
+    if (is_small(ending.front())) length = std::max(length, ending.size());
+    if (has_attributes) endings.insert(ending);
+  }
+
+  std::string find(const std::string& word) {
+    if (word.find(' ') != std::string::npos) return "";
+    if (endings.contains(word)) return word;
+    const std::size_t most = is_small(word.back()) ? longest[final_letter(word)] : word.size();
+    for (std::size_t length = std::min(most, word.size()); length > 0; --length) {
+      const std::string ending = word.substr(word.size() - length);
+      if (endings.contains(ending)) return ending;
     }
     return "";
   }
-
- private:
-  static int place_of(char c) {
-    const std::string_view letters = U"абвгдежзийклмнопрстуфхцчшщъыьэюя"_1251;
-    if (static_cast<unsigned char>(c) == U'ё'_1251) return 5;
-    const std::size_t at = letters.find(c);
-    return at == letters.npos ? -1 : static_cast<int>(at);
-  }
-
-  std::map<std::string, bool> endings_;
-  std::map<int, std::size_t> longest_;
 };
 
 TEST(Inflection, FindAgreesWithASlowReference) {

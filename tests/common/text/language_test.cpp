@@ -87,15 +87,13 @@ TEST(LetterClasses, HoldExactlyTheirLetters) {
 TEST(VoicedAndVoiceless, ConsonantsArePartnersAndAllElseStays) {
   const std::string_view voiceless = U"спткфш"_1251;
   const std::string_view voiced = U"збдгвщ"_1251;
+  const auto partner = [](int c, std::string_view from, std::string_view to) {
+    const std::size_t at = from.find(static_cast<char>(c));
+    return at != from.npos ? static_cast<unsigned char>(to[at]) : c;
+  };
   for (int c = 0; c < 256; ++c) {
-    const std::size_t in_voiced = voiced.find(static_cast<char>(c));
-    const std::size_t in_voiceless = voiceless.find(static_cast<char>(c));
-    const char to_voiceless =
-        in_voiced != voiced.npos ? voiceless[in_voiced] : static_cast<char>(c);
-    const char to_voiced =
-        in_voiceless != voiceless.npos ? voiced[in_voiceless] : static_cast<char>(c);
-    EXPECT_EQ(ToRuVoiceLessConsonant(c), static_cast<unsigned char>(to_voiceless)) << c;
-    EXPECT_EQ(ToRuVoicedConsonant(c - 256), static_cast<unsigned char>(to_voiced)) << c;
+    EXPECT_EQ(ToRuVoiceLessConsonant(c), partner(c, voiced, voiceless));
+    EXPECT_EQ(ToRuVoicedConsonant(c - 256), partner(c, voiceless, voiced));
   }
 }
 
