@@ -35,8 +35,8 @@ class KZ_API CGenSteno : public ZCObject {
   std::int16_t CodeOrfo(const char* word, char* out);
 
  private:
-  std::int16_t length_ = 0;
-  char previous_[64] = {};  // no more than the first 63 characters are ever compared
+  std::int16_t length_ = 0;  // of the rest written last; kept for the layout alone
+  char previous_[64] = {};   // no more than the first 63 characters are ever compared
 };
 
 #endif  // KZ_FRONT_CODING_H

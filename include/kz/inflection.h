@@ -93,6 +93,8 @@ class KZ_API CGrSrcWordFlex : public ZCObject {
  private:
   friend struct kz::InflectionCore;
 
+  // The layout of a table is fixed up to the position. The last entry, the counts and the last
+  // length are kept for it alone: the library does not go by them.
   ZCMapStringToOb entries_;
   std::int16_t longest_[32] = {};     // of the endings in each final letter
   CGrSrcWordObj* last_ = nullptr;     // the entry added last
