@@ -7,6 +7,7 @@
 #include <span>
 #include <string_view>
 
+#include "grammar/compact_record.h"
 #include "grammar/fields.h"
 #include "kz/gram_attr.h"
 #include "kz/gram_codec.h"
@@ -73,13 +74,13 @@ int16_t GetAttrNameIndex(int16_t kind, const char* name) {
 
 void SetGrSrcAttr(GRAMINFO* gram, const uint32_t* attributes) {
   if (gram == nullptr || attributes == nullptr) return;
-  const uint32_t indices = attributes[0], paradigm = attributes[1];
-  // The shifts bring the sign bit of the six-bit index to that of a byte and back.
-  const auto addition = static_cast<int8_t>(indices >> 8 << 2) >> 2;
-  kz::field::kAttributeValue.set(*gram, indices >> 14);
-  kz::field::kAttribute0.set(*gram, indices);
-  kz::field::kAttribute1.set(*gram, static_cast<uint32_t>(addition));
-  kz::set_paradigm(*gram, paradigm, indices >> 16, static_cast<unsigned char>(paradigm >> 16));
+  namespace record = kz::compact_record;
+  kz::field::kAttributeValue.set(*gram, record::kValue.get(attributes));
+  kz::field::kAttribute0.set(*gram, record::kNames[0].get(attributes));
+  kz::field::kAttribute1.set(*gram, static_cast<uint32_t>(record::addition_of(attributes)));
+  kz::set_paradigm(*gram, record::kNumber.get(attributes),
+                   record::kNames[record::kBaseKind].get(attributes),
+                   static_cast<unsigned char>(record::kLetter.get(attributes)));
   SetGrSrcAttr1(gram);
 }
 

@@ -2,13 +2,13 @@
 #include "morphology/inflection_text.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <string>
 
+#include "grammar/compact_record.h"
 #include "kz/charclass.h"
 #include "kz/gram_codec.h"
 #include "util/lexer.h"
@@ -17,22 +17,10 @@
 namespace kz {
 namespace {
 
-// A field of one of the two words of a record.
-struct Field {
-  std::size_t word;
-  int shift;
-  std::uint32_t mask;
-
-  std::uint32_t get(const std::uint32_t* record) const { return (record[word] >> shift) & mask; }
-  void set(std::uint32_t* record, std::uint32_t value) const {
-    record[word] = (record[word] & ~(mask << shift)) | ((value & mask) << shift);
-  }
-};
-
-constexpr std::array<Field, 3> kNames = {{{0, 0, 0xFF}, {0, 8, 0x3F}, {0, 16, 0xFF}}};  // by kind
-constexpr std::size_t kBaseKind = 2;
-constexpr Field kNumber{1, 0, 0xFFFF};
-constexpr Field kLetter{1, 16, 0xFF};
+using compact_record::kBaseKind;
+using compact_record::kLetter;
+using compact_record::kNames;
+using compact_record::kNumber;
 
 void read_paradigm(std::string_view token, std::uint32_t* record) {
   std::uint32_t number = 0;
@@ -56,12 +44,9 @@ char* append_name(char* output, std::size_t kind, int index, std::string_view be
   return append(append(output, name != nullptr ? name : "?"), behind);
 }
 
-// Bits 0 to 5 as a signed number.
-int signed_six_bits(std::uint32_t value) { return static_cast<int>(value ^ 0x20) - 0x20; }
-
 char* append_record(char* output, const std::uint32_t* record) {
   output = append_name(output, 0, static_cast<int>(kNames[0].get(record)), " ");
-  output = append_name(output, 1, signed_six_bits(kNames[1].get(record)), " ");
+  output = append_name(output, 1, compact_record::addition_of(record), " ");
   if (const std::uint32_t number = kNumber.get(record); number != 0) {
     output = std::to_chars(output, output + 5, number).ptr;
     *output++ = ' ';
