@@ -124,10 +124,12 @@ int connect_to(const char* name) {
   return handle;
 }
 
-// Opens what is no regular file, or is the standard output already. Waits for the reader of a pipe.
+// Opens what is no regular file, or is open as standard output and could not be replaced or opened
+// by a name. Waits for the reader of a pipe.
 int open_stream(const char* name, const struct stat& status) {
   struct stat output;
-  if (fstat(STDOUT_FILENO, &output) == 0 && are_same(output, status)) {
+  if ((S_ISREG(status.st_mode) || S_ISSOCK(status.st_mode)) && fstat(STDOUT_FILENO, &output) == 0 &&
+      are_same(output, status)) {
     return duplicate(STDOUT_FILENO);
   }
   if (S_ISREG(status.st_mode)) return kNoFile;

@@ -157,7 +157,8 @@ class KZ_API ZCFile : public ZCObject {
   static void SetStatus(const char* name, const ZCFileStatus& status);
 
   // Operations on named files: 1 on success, 0 on failure.
-  // Copy replaces an existing target; a file copied onto itself fails and stays whole.
+  // Copy replaces an existing target, in one step, or in place where its directory takes no new
+  // file; a file copied onto itself fails and stays whole.
   static int Copy(const char* from, const char* to);
   static int Rename(const char* from, const char* to);  // never replaces a target
   static int Remove(const char* name);                  // files only, no directories

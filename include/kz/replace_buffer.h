@@ -131,8 +131,9 @@ typedef struct CFindBuffer CFindBuffer;
  * bytes or more, has a zero byte or cannot be read in full. */
 KZ_API int16_t LoadBuffer(const char* path, char* destination);
 
-/* Makes the text the contents of a file, in one step. 0 on success; 196 for a null argument, 195
- * when the file cannot be written: a file that there was is then untouched. */
+/* Makes the text the contents of a file, in one step, or in place where the directory takes no new
+ * file. 0 on success; 196 for a null argument, 195 when the file cannot be written: a file that
+ * there was is then untouched, unless its device failed while it was written in place. */
 KZ_API int16_t SaveBuffer(const char* path, const char* text);
 
 /* The first line behind a line feed that is the word (mode 0), the word with a replacement (mode
