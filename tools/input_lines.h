@@ -20,7 +20,7 @@ void check_standard_input();
 void for_each_line(const std::function<void(const std::string&)>& answer);
 
 struct WordAnswers {
-  // The answer to a word; `line` tells that it is a line of standard input. Throws BadUtf8.
+  // The answer to a word; `line` is true for a line of standard input. Throws BadUtf8.
   std::function<void(const std::string& word, bool line)> answer;
   // What is said instead of a word that is not UTF-8.
   std::function<void(const std::string& word, const std::string& message, bool line)> refuse;

@@ -36,7 +36,7 @@ class Marker {
       // A ')' alone ends a label.
       const bool closes = c == ')' && std::exchange(open_, 0) > 0;
       open_ += c == '(' ? 1 : 0;
-      if ((closes && joins_behind()) || (c == '{' && at_ < body_.size() && is_stop())) {
+      if ((closes && joins_after()) || (c == '{' && at_ < body_.size() && is_stop())) {
         result_ += kJoin;
       }
     }
@@ -59,7 +59,7 @@ class Marker {
     return at_ > 0 && !among(body_[at_ - 1], " ;/") && !is_code(body_[at_ - 1]);
   }
 
-  bool joins_behind() const {
+  bool joins_after() const {
     return at_ < body_.size() && !among(body_[at_], " ;/[{#|") && !is_code(body_[at_]);
   }
 
@@ -102,7 +102,7 @@ class Marker {
   std::string_view language_;
   std::size_t at_ = 0;
   int open_ = 0;        // parentheses
-  bool starts_ = true;  // nothing of a synonym stands before this place, but perhaps labels
+  bool starts_ = true;  // nothing of a synonym is before this place, except labels
   std::string result_;
 };
 

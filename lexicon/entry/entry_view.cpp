@@ -32,7 +32,7 @@ constexpr std::array<std::pair<std::string_view, const char*>, 25> kParts = {{
 
 bool is_latin(char32_t c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-// Adds a character to a text in which blanks neither double nor stand inside parentheses' edges,
+// Adds a character to a text in which blanks neither double nor are inside parentheses' edges,
 // nor beside joins.
 void add_tidily(std::u32string& text, char32_t c) {
   constexpr auto kJoined = static_cast<char32_t>(kJoin);

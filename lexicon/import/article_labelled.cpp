@@ -40,7 +40,7 @@ std::size_t homonym_length(std::u32string_view text) {
   return end > 1 && ends ? end : 0;
 }
 
-// Where the next homonym's number stands behind the beginning of the text, or its length.
+// The position of the next homonym's number after the beginning of the text, or the text's length.
 std::size_t find_homonym(std::u32string_view text) {
   for (std::size_t at = 1; at < text.size(); ++at) {
     if (text[at - 1] == U' ' && homonym_length(text.substr(at)) > 0) return at;
@@ -51,7 +51,7 @@ std::size_t find_homonym(std::u32string_view text) {
 enum class Item { kText, kHomonym, kPart, kMeaning, kSub };
 
 // What a line begins: "_II" a homonym, "1. _n." a part of speech, "1)" a meaning, "а)" a shade of
-// one. Cuts the number off; other lines go on with what stands before them.
+// one. Cuts the number off; other lines continue the one before them.
 Item take_item(std::u32string_view& line, int& number) {
   std::size_t digits = 0;
   number = 0;

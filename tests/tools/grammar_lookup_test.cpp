@@ -35,7 +35,7 @@ TEST(GrammarLookup, TellsWhatBlocksSayOfEachWord) {
             "    1. вода\n"
             "    2. {курорт} воды\n"
             "       Russian: plural\n");
-  // Semantics go on behind a bar, and nothing behind a parenthesis is read.
+  // Semantics go on after a bar, and nothing after a parenthesis is read.
   EXPECT_EQ(place.kzdic({"lookup", "--grammar", "en.dic", "bank", "x-ray"}).out,
             "bank  (en.dic, as typed)\n"
             "  bank, noun [%A|M]\n"
