@@ -3,6 +3,8 @@ option(KZ_BUILD_TOOL "Build kzdic, the command-line tool" ON)
 option(KZ_BUILD_BENCH "Build the benchmarks" OFF)
 option(KZ_BUILD_FUZZ "Build the fuzz targets (clang)" OFF)
 option(KZ_32BIT "Build for 32-bit x86" OFF)
+set(KZ_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+    CACHE STRING "Options of the compiler for warnings")
 set(KZ_SANITIZE "" CACHE STRING "Sanitizers to build with: address, thread or nothing")
 
 set(CMAKE_CXX_STANDARD 20)
@@ -16,8 +18,7 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(kz_options INTERFACE)
-target_compile_options(kz_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_options(kz_options INTERFACE ${KZ_WARNINGS})
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # These releases take the inlined copying of std::string for overlapping copies.
   target_compile_options(kz_options INTERFACE -Wno-restrict)
