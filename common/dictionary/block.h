@@ -25,7 +25,7 @@ class Block {
   // How exact searches treat the block: the first reads through its records, which takes less time
   // than to enter them in the table of headwords; later ones rely on the table, or know that they
   // cannot.
-  enum class Headwords : std::uint8_t { kUnknown, kSearchedOnce, kInTable, kNotInTable };
+  enum class Headwords : std::uint8_t { kUnknown, kSearchedOnce, kCached, kNotCacheable };
   Headwords headwords = Headwords::kUnknown;
   // The block of a letter group in the table has been counted.
   bool counted = false;

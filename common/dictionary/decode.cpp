@@ -19,8 +19,8 @@ constexpr std::int16_t kSharedTextLevel = DIC_LEVEL_FULL;
 bool Lookup::decode(std::int16_t level) {
   if (!s_.packed && d_.level_ < kTextLevel) d_.level_ = kTextLevel;
   if (level >= kTextLevel && d_.level_ < kTextLevel) {
-    if (s_.tabled != nullptr) {
-      set_entry({s_.tabled->text, s_.tabled->length});
+    if (s_.cached != nullptr) {
+      set_entry({s_.cached->text, s_.cached->length});
     } else {
       const auto length = static_cast<std::size_t>(s_.work_length);
       std::transform(d_.work_record_, d_.work_record_ + length, d_.entry_, invert_top_bit);
@@ -42,7 +42,7 @@ bool Lookup::resolve_shared_text() {
   if (d_.shared_size_ == 0) return true;
   const std::string_view entry(d_.entry_, static_cast<std::size_t>(d_.entry_length_));
   const SharedReference reference =
-      s_.tabled != nullptr ? s_.tabled->reference : find_shared_reference(entry, d_.shared_size_);
+      s_.cached != nullptr ? s_.cached->reference : find_shared_reference(entry, d_.shared_size_);
   if (!reference) return true;
   if (!load_shared_text()) return false;
 
@@ -82,11 +82,11 @@ void Lookup::set_entry(std::string_view text) {
 
 // Searches leave the entry object alone; it takes the found entry when somebody asks for it.
 CDicEntry* Lookup::entry_object() {
-  if (s_.entry_object_behind && s_.found) {
+  if (s_.entry_object_stale && s_.found) {
     decode(kTextLevel);
     d_.entry_object_->SetFullEntry(d_.entry_);
     d_.entry_object_->Split();
-    s_.entry_object_behind = false;
+    s_.entry_object_stale = false;
   }
   return d_.entry_object_;
 }

@@ -19,14 +19,14 @@ constexpr std::int32_t kUnknownBlockSize = 2048;
 const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_t level) {
   set_error(DIC_OK);
   d_.search_mode_ = search_mode;
-  const std::size_t length = word != nullptr ? strnlen(word, HeadwordTable::kWordMax + 1) : 0;
+  const std::size_t length = word != nullptr ? strnlen(word, HeadwordCache::kWordMax + 1) : 0;
   const bool by_headword =
       search_mode == DIC_SEARCH_EXACT && length > 0 && !has_mode(DIC_MODE_NO_INDEX);
   if (by_headword) {
-    const TabledRecord* record = s_.headwords.find({word, length});
-    if (record != nullptr) return take_tabled(*record, level);
+    const CachedRecord* record = s_.headwords.find({word, length});
+    if (record != nullptr) return take_cached(*record, level);
   }
-  const bool searchable = word == nullptr || (length > 0 && length <= HeadwordTable::kWordMax);
+  const bool searchable = word == nullptr || (length > 0 && length <= HeadwordCache::kWordMax);
   // A null word has an empty key, which the first record begins with.
   d_.key_length_ = static_cast<std::int16_t>(searchable ? length : 0);
   if (word != nullptr && searchable) {
@@ -36,9 +36,9 @@ const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_
   }
   s_.found = false;
   s_.more = false;
-  s_.tabled = nullptr;
+  s_.cached = nullptr;
   set_entry({});
-  if (!searchable || (by_headword && table_knows_all_like(word))) return nullptr;
+  if (!searchable || (by_headword && cache_is_complete_for(word))) return nullptr;
 
   const Place place = place_of(word);
   if (place.size <= 0) return nullptr;
@@ -50,15 +50,15 @@ const char* Lookup::find(const char* word, std::int16_t search_mode, std::int16_
   }
   search_in(*block);
   if (by_headword && key_is_headword()) {
-    if (block->headwords == Block::Headwords::kInTable) {
-      count_in_table(*block);
+    if (block->headwords == Block::Headwords::kCached) {
+      mark_group_cached(*block);
       return nullptr;
     }
-    if (enter_headwords(*block)) {
+    if (cache_headwords(*block)) {
       place_of(word);  // entering has asked the index for other words
-      count_in_table(*block);
-      const TabledRecord* record = s_.headwords.find(key());
-      return record != nullptr ? take_tabled(*record, level) : nullptr;
+      mark_group_cached(*block);
+      const CachedRecord* record = s_.headwords.find(key());
+      return record != nullptr ? take_cached(*record, level) : nullptr;
     }
   }
   return answer(find_record(), level);
@@ -174,19 +174,19 @@ bool Lookup::take_packed(std::string_view before, const PackedRecord& record) {
   return true;
 }
 
-// What only a walk from the record on needs is left to catch_up.
-const char* Lookup::take_tabled(const TabledRecord& record, std::int16_t level) {
-  s_.tabled = &record;
+// What only a walk from the record on needs is left to sync_cursor.
+const char* Lookup::take_cached(const CachedRecord& record, std::int16_t level) {
+  s_.cached = &record;
   s_.found = true;
   s_.more = true;
-  s_.entry_object_behind = true;
+  s_.entry_object_stale = true;
   d_.level_ = 0;
   set_entry(s_.packed ? std::string_view() : std::string_view(record.text, record.length));
   return decode(level) ? d_.entry_ : nullptr;
 }
 
-void Lookup::catch_up() {
-  const TabledRecord* const record = std::exchange(s_.tabled, nullptr);
+void Lookup::sync_cursor() {
+  const CachedRecord* const record = std::exchange(s_.cached, nullptr);
   if (record == nullptr) return;
   search_in(*record->block);
   d_.position_ = record->block->position();
@@ -201,7 +201,7 @@ void Lookup::catch_up() {
 const char* Lookup::find_next(std::int16_t level) {
   set_error(DIC_OK);
   if (!s_.more) return nullptr;
-  catch_up();
+  sync_cursor();
   bool taken = false;
   if (s_.packed) {
     PackedRecord record;
@@ -221,7 +221,7 @@ const char* Lookup::answer(bool found, std::int16_t level) {
   d_.cursor_ = d_.record_end_;
   d_.remaining_ = s_.range.size() - s_.next;
   d_.level_ = 0;
-  s_.entry_object_behind = true;
+  s_.entry_object_stale = true;
   return decode(level) ? d_.entry_ : nullptr;
 }
 

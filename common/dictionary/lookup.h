@@ -9,7 +9,7 @@
 
 #include "dictionary/block.h"
 #include "dictionary/header.h"
-#include "dictionary/headword_table.h"
+#include "dictionary/headword_cache.h"
 #include "dictionary/index.h"
 #include "dictionary/record_range.h"
 #include "dictionary/records.h"
@@ -24,9 +24,9 @@ struct SearchState {
 
   bool packed = false;
   bool whole_words = false;  // a packed word list: an exact match ends with the record
-  HeadwordTable headwords;
+  HeadwordCache headwords;
   // Letter groups of the index whose headwords are not in the table, once one of them is.
-  std::optional<std::size_t> groups_not_in_table;
+  std::optional<std::size_t> uncached_groups;
   std::size_t texts_max;  // bytes that the decoded texts of a block may take
   BlockStore blocks;      // those that the index does not keep
   // Bytes that blocks and decoded texts may still take. Those of a sound dictionary take a few
@@ -40,9 +40,9 @@ struct SearchState {
   std::int32_t next = 0;
   bool found = false;
   bool more = false;
-  const TabledRecord* tabled = nullptr;  // the record found, when the table of headwords knew it
+  const CachedRecord* cached = nullptr;  // the record found, when the table of headwords knew it
   std::int32_t work_length = 0;          // of the packed record in the work record
-  bool entry_object_behind = false;      // the entry object does not show the found entry yet
+  bool entry_object_stale = false;      // the entry object does not show the found entry yet
 };
 
 // The private parts of a CDic, for the functions over its handle. It has no state of its own.
@@ -111,17 +111,17 @@ class Lookup {
   bool first_plain_record();
   bool take_plain(std::int32_t offset);
   bool take_packed(std::string_view before, const PackedRecord& record);
-  const char* take_tabled(const TabledRecord& record, std::int16_t level);
-  void catch_up();
+  const char* take_cached(const CachedRecord& record, std::int16_t level);
+  void sync_cursor();
 
   bool key_is_headword() const;
-  bool enter_headwords(Block& block);
-  void count_in_table(Block& block);
-  bool table_knows_all_like(const char* word) const;
-  bool enter_plain(Block& block);
-  bool enter_packed(Block& block);
-  bool enter(std::string_view word, TabledRecord record);
-  bool leads_here(std::string_view word, const Block& block);
+  bool cache_headwords(Block& block);
+  void mark_group_cached(Block& block);
+  bool cache_is_complete_for(const char* word) const;
+  bool cache_plain(Block& block);
+  bool cache_packed(Block& block);
+  bool cache_record(std::string_view word, CachedRecord record);
+  bool is_looked_up_in(std::string_view word, const Block& block);
 
   const char* answer(bool found, std::int16_t level);
   bool decode(std::int16_t level);

@@ -1,5 +1,5 @@
 // Hash from headwords to records.
-#include "dictionary/headword_table.h"
+#include "dictionary/headword_cache.h"
 
 #include <algorithm>
 #include <cstring>
@@ -36,11 +36,11 @@ std::uint32_t hash_of(std::string_view word) {
   return static_cast<std::uint32_t>(hash >> 32);
 }
 
-std::string_view headword(const TabledRecord& record) { return {record.text, record.word_length}; }
+std::string_view headword(const CachedRecord& record) { return {record.text, record.word_length}; }
 
 }  // namespace
 
-std::size_t HeadwordTable::slot_of(std::string_view word, std::uint32_t hash) const {
+std::size_t HeadwordCache::slot_of(std::string_view word, std::uint32_t hash) const {
   const std::size_t mask = slots_.size() - 1;
   std::size_t i = hash & mask;
   while (slots_[i].record != 0 &&
@@ -50,13 +50,13 @@ std::size_t HeadwordTable::slot_of(std::string_view word, std::uint32_t hash) co
   return i;
 }
 
-const TabledRecord* HeadwordTable::find(std::string_view word) const {
+const CachedRecord* HeadwordCache::find(std::string_view word) const {
   if (slots_.empty()) return nullptr;
   const std::uint32_t number = slots_[slot_of(word, hash_of(word))].record;
   return number == 0 ? nullptr : &records_[number - 1];
 }
 
-bool HeadwordTable::add(const TabledRecord& record) {
+bool HeadwordCache::add(const CachedRecord& record) {
   if ((records_.size() + 1) * 2 > slots_.size() && !grow()) return false;
   const std::uint32_t hash = hash_of(headword(record));
   Slot& slot = slots_[slot_of(headword(record), hash)];
@@ -68,10 +68,10 @@ bool HeadwordTable::add(const TabledRecord& record) {
 
 // Twice the slots, and room for the records that they can take: half of them stay empty, so that a
 // headword that is not there shows at once.
-bool HeadwordTable::grow() {
+bool HeadwordCache::grow() {
   const std::size_t size = slots_.empty() ? kFirstSlots : slots_.size() * 2;
   const std::size_t records = size / 2;
-  if (std::max(size * sizeof(Slot), records * sizeof(TabledRecord)) > memory_max_) return false;
+  if (std::max(size * sizeof(Slot), records * sizeof(CachedRecord)) > memory_max_) return false;
   try {
     records_.reserve(records);
     std::vector<Slot> old = std::exchange(slots_, std::vector<Slot>(size));

@@ -70,34 +70,34 @@ bool Lookup::key_is_headword() const {
 }
 
 // True when the headwords of the block are in the table since this call.
-bool Lookup::enter_headwords(Block& block) {
+bool Lookup::cache_headwords(Block& block) {
   if (block.headwords == Block::Headwords::kUnknown) {
     block.headwords = Block::Headwords::kSearchedOnce;
   } else if (block.headwords == Block::Headwords::kSearchedOnce) {
-    const bool entered = s_.packed ? enter_packed(block) : enter_plain(block);
-    block.headwords = entered ? Block::Headwords::kInTable : Block::Headwords::kNotInTable;
+    const bool entered = s_.packed ? cache_packed(block) : cache_plain(block);
+    block.headwords = entered ? Block::Headwords::kCached : Block::Headwords::kNotCacheable;
     return entered;
   }
   return false;
 }
 
 // Takes down that the letter group that the index is at has its headwords in the table.
-void Lookup::count_in_table(Block& block) {
+void Lookup::mark_group_cached(Block& block) {
   IndexCore index(d_.index_);
   if (block.counted || !index.at_letter_group()) return;
   block.counted = true;
-  if (!s_.groups_not_in_table) s_.groups_not_in_table = index.count_letter_groups();
-  --*s_.groups_not_in_table;
+  if (!s_.uncached_groups) s_.uncached_groups = index.count_letter_groups();
+  --*s_.uncached_groups;
 }
 
 // A word that the table does not have is not in the dictionary, when all blocks in which words that
 // begin like it could be are in the table.
-bool Lookup::table_knows_all_like(const char* word) const {
-  return s_.groups_not_in_table == std::size_t{0} && key_is_headword() &&
+bool Lookup::cache_is_complete_for(const char* word) const {
+  return s_.uncached_groups == std::size_t{0} && key_is_headword() &&
          IndexCore(d_.index_).in_letter_group(word);
 }
 
-bool Lookup::enter_plain(Block& block) {
+bool Lookup::cache_plain(Block& block) {
   const std::string_view bytes = block.bytes();
   for (std::size_t line_feed = bytes.find('\n'); line_feed != std::string_view::npos;) {
     const std::size_t start = line_feed + 1;
@@ -105,17 +105,17 @@ bool Lookup::enter_plain(Block& block) {
     const std::string_view line = bytes.substr(start, line_feed - start);
     const std::size_t length = line.find(kHeadwordEnd);
     if (length == std::string_view::npos) continue;
-    TabledRecord record;
+    CachedRecord record;
     record.block = &block;
     record.text = line.data();
     record.next = static_cast<std::int32_t>(start + line.size());
     record.length = static_cast<std::uint16_t>(std::min<std::size_t>(line.size(), kEntryTextMax));
-    if (!enter(line.substr(0, length), record)) return false;
+    if (!cache_record(line.substr(0, length), record)) return false;
   }
   return true;
 }
 
-bool Lookup::enter_packed(Block& block) {
+bool Lookup::cache_packed(Block& block) {
   const bool whole = s_.whole_words;
   std::size_t size = 0;
   const bool in_order = walk_packed(
@@ -134,28 +134,28 @@ bool Lookup::enter_packed(Block& block) {
   return walk_packed(block.bytes(), [&](const PackedRecord& packed, std::string_view text, auto) {
     const std::string_view key = search_text(text, whole);
     if (packed.before_marker || !(whole || key.ends_with(kHeadwordEnd))) return true;
-    TabledRecord record;
+    CachedRecord record;
     record.block = &block;
     record.text = end;
     record.next = packed.end;
     record.length = static_cast<std::uint16_t>(text.size());
     end = std::ranges::copy(text, end).out;
-    return enter({record.text, key.size() - (whole ? 0 : 1)}, record);
+    return cache_record({record.text, key.size() - (whole ? 0 : 1)}, record);
   });
 }
 
 // Enters one record, unless no search could ask for its headword in this block. False when there is
 // no room.
-bool Lookup::enter(std::string_view word, TabledRecord record) {
-  if (word.empty() || word.size() > HeadwordTable::kWordMax) return true;
-  if (!leads_here(word, *record.block)) return true;
+bool Lookup::cache_record(std::string_view word, CachedRecord record) {
+  if (word.empty() || word.size() > HeadwordCache::kWordMax) return true;
+  if (!is_looked_up_in(word, *record.block)) return true;
   record.word_length = static_cast<std::uint16_t>(word.size());
   record.reference = find_shared_reference({record.text, record.length}, d_.shared_size_);
   return s_.headwords.add(record);
 }
 
-bool Lookup::leads_here(std::string_view word, const Block& block) {
-  char text[HeadwordTable::kWordMax + 1];
+bool Lookup::is_looked_up_in(std::string_view word, const Block& block) {
+  char text[HeadwordCache::kWordMax + 1];
   *std::ranges::copy(word, text).out = 0;
   const Place place = place_of(text);
   return place.position == block.position() && place.size == block.size();

@@ -1,9 +1,9 @@
-// HeadwordTable: a hash from headwords to records, for exact searches.
+// HeadwordCache: a hash from headwords to records, for exact searches.
 //
 // The blocks that are searched more than once enter their headwords here. A search that finds its
 // word in the table need not ask the index, nor read through a block.
-#ifndef KZ_DICTIONARY_HEADWORD_TABLE_H
-#define KZ_DICTIONARY_HEADWORD_TABLE_H
+#ifndef KZ_DICTIONARY_HEADWORD_CACHE_H
+#define KZ_DICTIONARY_HEADWORD_CACHE_H
 
 #include <cstddef>
 #include <cstdint>
@@ -17,7 +17,7 @@ namespace kz {
 class Block;
 
 // A record in a block in memory.
-struct TabledRecord {
+struct CachedRecord {
   const Block* block = nullptr;
   const char* text = nullptr;  // decoded, not terminated; it begins with the headword
   std::int32_t next = 0;       // offset in the block behind the record
@@ -26,19 +26,19 @@ struct TabledRecord {
   SharedReference reference;
 };
 
-class HeadwordTable {
+class HeadwordCache {
  public:
   // Longest headword that a search can ask for.
   static constexpr std::size_t kWordMax = 77;
 
   // `memory_max`: bytes that an array of the table may take.
-  explicit HeadwordTable(std::size_t memory_max) : memory_max_(memory_max) {}
+  explicit HeadwordCache(std::size_t memory_max) : memory_max_(memory_max) {}
 
   // The record of a headword, null when the table does not know it.
-  const TabledRecord* find(std::string_view word) const;
+  const CachedRecord* find(std::string_view word) const;
 
   // Enters a record unless its headword is there already. False when there is no room.
-  bool add(const TabledRecord& record);
+  bool add(const CachedRecord& record);
 
  private:
   // A hash and the number of a record, counted from 1; 0 for an empty slot.
@@ -51,10 +51,10 @@ class HeadwordTable {
   bool grow();
 
   std::vector<Slot> slots_;  // a power of two of them, or none
-  std::vector<TabledRecord> records_;
+  std::vector<CachedRecord> records_;
   std::size_t memory_max_;
 };
 
 }  // namespace kz
 
-#endif  // KZ_DICTIONARY_HEADWORD_TABLE_H
+#endif  // KZ_DICTIONARY_HEADWORD_CACHE_H
