@@ -1,6 +1,6 @@
 // What programs have compiled in of the exported classes and records, as 32-bit builds have it.
 //
-// A class keeps its fields at these offsets; what the library adds of its own comes behind the last
+// A class keeps its fields at these offsets; what the library adds of its own comes after the last
 // of them. In 64-bit builds the same fields come in the same order. This file makes no code: it is
 // compiled without access control, so that private fields can be asked for too.
 #include <cstddef>

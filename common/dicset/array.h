@@ -21,7 +21,7 @@ inline const CDicArray* descriptor_at(const ZCObArray& array, int index) {
 }
 
 // Puts a descriptor of a path, which is `prefix` and `name`, into a slot: -1 appends, a slot in use
-// is replaced, one behind the end makes the array longer. False for a path that is too long, and
+// is replaced, one after the end makes the array longer. False for a path that is too long, and
 // when memory runs out.
 bool put_descriptor(ZCObArray& array, std::int16_t position, std::string_view prefix,
                     std::string_view name, std::int16_t mode);

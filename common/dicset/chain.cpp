@@ -8,7 +8,7 @@ namespace {
 
 using Chain = ZCObArray[2];
 
-// A dictionary may stand in the list without belonging to the queue: it is its holder's then, and
+// A dictionary may be in the list without belonging to the queue: it is its holder's then, and
 // only leaves the list.
 void unload_list(CDicSys& set, std::int16_t number) {
   Queue queue = queue_of(set);

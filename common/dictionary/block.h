@@ -12,7 +12,7 @@
 
 namespace kz {
 
-// The bytes of one block as they stand in the file, followed by the bytes 0, 0, 26.
+// The bytes of one block as they are in the file, followed by the bytes 0, 0, 26.
 class Block {
  public:
   // Reads a block from the file. Null when the file does not give all of it, or without memory.

@@ -16,7 +16,7 @@ constexpr std::string_view kSecondSignature = "KZ Dictionary 2.10 (C) 1993-1996 
 constexpr std::string_view kFirstSignature = "QAN Dictionary (C) 1993-1995 Torva Ltd. ";
 static_assert(kSecondSignature.size() == kSignature.size());
 
-// The first generation's header and what stands where in it.
+// The first generation's header and the places of its fields.
 constexpr std::size_t kFirstHeaderSize = 124;
 constexpr std::uint16_t kFirstVersion = 256;
 namespace first {

@@ -46,7 +46,7 @@ Header decode_header(std::span<const std::uint8_t, kHeaderSize> bytes);
 bool upgrade_header(HeaderBytes bytes);
 
 // The size and position checks that every header must pass: FileSize is not above the file's
-// length, IndexOffset is 0 or stands behind the header and inside the file.
+// length, IndexOffset is 0 or is after the header and inside the file.
 bool sizes_fit(const Header& header, std::uint64_t file_length);
 
 // The header rules of a dictionary open: the current signature or one that upgrade_header takes,

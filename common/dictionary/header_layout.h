@@ -1,4 +1,4 @@
-// Where the fields of a dictionary header stand, in bytes from its start.
+// The places of the fields of a dictionary header, in bytes from its start.
 #ifndef KZ_DICTIONARY_HEADER_LAYOUT_H
 #define KZ_DICTIONARY_HEADER_LAYOUT_H
 

@@ -1,7 +1,7 @@
 // HeadwordCache: a hash from headwords to records, for exact searches.
 //
-// The blocks that are searched more than once enter their headwords here. A search that finds its
-// word in the table need not ask the index, nor read through a block.
+// Blocks that are searched more than once put their headwords here. A search that finds its word in
+// the cache needs neither the index nor the block.
 #ifndef KZ_DICTIONARY_HEADWORD_CACHE_H
 #define KZ_DICTIONARY_HEADWORD_CACHE_H
 
@@ -20,7 +20,7 @@ class Block;
 struct CachedRecord {
   const Block* block = nullptr;
   const char* text = nullptr;  // decoded, not terminated; it begins with the headword
-  std::int32_t next = 0;       // offset in the block behind the record
+  std::int32_t next = 0;       // offset in the block after the record
   std::uint16_t length = 0;    // of the text, cut to what an entry takes
   std::uint16_t word_length = 0;
   SharedReference reference;
@@ -31,13 +31,13 @@ class HeadwordCache {
   // Longest headword that a search can ask for.
   static constexpr std::size_t kWordMax = 77;
 
-  // `memory_max`: bytes that an array of the table may take.
+  // `memory_max`: bytes that an array of the cache may take.
   explicit HeadwordCache(std::size_t memory_max) : memory_max_(memory_max) {}
 
-  // The record of a headword, null when the table does not know it.
+  // The record of a headword, null when the cache lacks it.
   const CachedRecord* find(std::string_view word) const;
 
-  // Enters a record unless its headword is there already. False when there is no room.
+  // Adds a record unless its headword is there already. False when there is no room.
   bool add(const CachedRecord& record);
 
  private:

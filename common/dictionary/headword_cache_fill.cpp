@@ -1,8 +1,8 @@
-// Entering the headwords of a block in the table of the dictionary.
+// Puts the headwords of a block into the cache of the dictionary.
 //
-// The table must answer what reading through the block would. So a headword is entered with the
-// first of its records, and only from the block to which the index leads for it; and a packed block
-// only when a search would not stop short of one of its records.
+// The cache must answer as a search of the block would. So a headword gets the first of its
+// records, and only from the block in which the index looks it up; and the headwords of a packed
+// block are cached only when a search would not stop before one of its records.
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -62,14 +62,14 @@ bool walk_packed(std::string_view block, Visit visit) {
 
 }  // namespace
 
-// Whether the key can be nothing but a headword. One with a headword end or a line feed in it may
+// True when the key can be nothing but a headword. One with a headword end or a line feed in it may
 // also match across them.
 bool Lookup::key_is_headword() const {
   return s_.whole_words || (key().find(kHeadwordEnd) == std::string_view::npos &&
                             key().find('\n') == std::string_view::npos);
 }
 
-// True when the headwords of the block are in the table since this call.
+// True when this call has put the headwords of the block into the cache.
 bool Lookup::cache_headwords(Block& block) {
   if (block.headwords == Block::Headwords::kUnknown) {
     block.headwords = Block::Headwords::kSearchedOnce;
@@ -81,7 +81,7 @@ bool Lookup::cache_headwords(Block& block) {
   return false;
 }
 
-// Takes down that the letter group that the index is at has its headwords in the table.
+// Counts the letter group at the place of the index as cached, once for each block.
 void Lookup::mark_group_cached(Block& block) {
   IndexCore index(d_.index_);
   if (block.counted || !index.at_letter_group()) return;
@@ -90,8 +90,8 @@ void Lookup::mark_group_cached(Block& block) {
   --*s_.uncached_groups;
 }
 
-// A word that the table does not have is not in the dictionary, when all blocks in which words that
-// begin like it could be are in the table.
+// True when the cache has the headwords of all blocks in which the word could be: a word that it
+// lacks is not in the dictionary then.
 bool Lookup::cache_is_complete_for(const char* word) const {
   return s_.uncached_groups == std::size_t{0} && key_is_headword() &&
          IndexCore(d_.index_).in_letter_group(word);
@@ -144,8 +144,8 @@ bool Lookup::cache_packed(Block& block) {
   });
 }
 
-// Enters one record, unless no search could ask for its headword in this block. False when there is
-// no room.
+// Puts one record into the cache, unless no search could ask for its headword in this block. False
+// when there is no room.
 bool Lookup::cache_record(std::string_view word, CachedRecord record) {
   if (word.empty() || word.size() > HeadwordCache::kWordMax) return true;
   if (!is_looked_up_in(word, *record.block)) return true;

@@ -39,7 +39,7 @@ std::size_t entry_count(std::int16_t depth, std::int16_t alphabet_size, std::int
   return IndexShape{alphabet_size, depth == 3}.cells();
 }
 
-// Turns integers that were read as they stand in the file into native ones.
+// Turns integers that were read as they are in the file into native ones.
 void decode(std::uint32_t& value) { value = load_u32(reinterpret_cast<std::uint8_t*>(&value)); }
 void decode(std::int32_t& value) { value = load_i32(reinterpret_cast<std::uint8_t*>(&value)); }
 
@@ -72,8 +72,8 @@ void copy_text(char* field, std::size_t size, const char* text) {
   for (std::size_t i = 0; text != nullptr && i + 1 < size && text[i] != 0; ++i) field[i] = text[i];
 }
 
-// Notes the non-empty groups of a table in the order in which their blocks stand. The slots of the
-// last place are n + 1 neighbouring cells, whose head is stored behind the letters; a word of bits
+// Notes the non-empty groups of a table in the order in which their blocks are. The slots of the
+// last place are n + 1 neighbouring cells, whose head is stored after the letters; a word of bits
 // takes them all, so that empty cells cost no branch.
 void note_groups(const std::int32_t* table, const IndexShape& shape, IndexState& state) {
   const auto n = static_cast<std::size_t>(shape.n);

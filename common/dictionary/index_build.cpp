@@ -15,7 +15,7 @@ namespace {
 constexpr std::int32_t kGrowth = 1000;
 
 // The letter that a place of the word contributes to the index: zero for a mark, for the end of
-// the word (which ends the places behind it too), and for what the alphabet lacks.
+// the word (which ends the places after it too), and for what the alphabet lacks.
 struct WordLetters {
   WordLetters(const Alphabet& alphabet, const char* word) {
     for (std::size_t i = 0; i < slots.size(); ++i) slots[i] = alphabet.size;
@@ -63,7 +63,7 @@ void IndexCore::enter_in_table(std::int32_t position, const char* word) {
 }
 
 // A word of depth 3 whose second character is no letter belongs before the pairs of its row. One
-// that comes behind them still gets the cell that its look-up reads, if that is free, and leaves
+// that comes after them still gets the cell that its look-up reads, if that is free, and leaves
 // the current pair open.
 void IndexCore::enter_late_mark(std::int32_t position, const Slots& slots) {
   const IndexShape shape{x_.alphabet_size_, true};

@@ -13,7 +13,7 @@ namespace kz {
 inline constexpr std::size_t kKeyLength = 5;
 
 // Every character has six bits: the marks count from 1, the Russian letters follow, and whatever
-// else there is has 0 like the places behind the end of the word.
+// else there is has 0 like the places after the end of the word.
 inline constexpr std::string_view kKeyMarks = " ')-./`";
 inline constexpr std::uint32_t kFirstKeyLetter = 8;
 

@@ -51,7 +51,7 @@ Slots IndexCore::find_slots() const {
   const IndexShape shape{alphabet.size, x_.depth_ == 3};
   const int n = alphabet.size;
   Slots s{alphabet.slot(x_.prefix_[0]), n, n};
-  // Words that begin with a digit stand at the head of the first row that has records, whatever
+  // Words that begin with a digit are at the head of the first row that has records, whatever
   // follows the digit.
   if (x_.prefix_[0] != 0) {
     s[1] = alphabet.slot(x_.prefix_[1]);
@@ -116,7 +116,7 @@ std::int32_t IndexCore::block_size() {
   return x_.block_size_;
 }
 
-// The block of a cell ends at the first group behind it that has a greater position. The head of a
+// The block of a cell ends at the first group after it that has a greater position. The head of a
 // row of depth 3 stands for the whole row, and a widened group for all of its pair.
 std::int32_t IndexCore::size_at(const Slots& s, std::int32_t position) const {
   const IndexShape shape{x_.alphabet_size_, x_.depth_ == 3};

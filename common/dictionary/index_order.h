@@ -24,11 +24,11 @@ class GroupOrder {
   // Starts anew with no groups among `ranks` places.
   void reset(std::size_t ranks);
 
-  // Ranks come in ascending order, and finish() behind the last one.
+  // Ranks come in ascending order, and finish() after the last one.
   void append(std::size_t rank, std::int32_t position);
   void finish();
 
-  // Position of the first group from rank `start` on that lies behind `position`.
+  // Position of the first group from rank `start` on that lies after `position`.
   std::optional<std::int32_t> first_greater(std::size_t start, std::int32_t position) const;
 
   // Rank of the first group from rank `start` on.
@@ -41,7 +41,7 @@ class GroupOrder {
   std::vector<std::uint32_t> before_;  // entries before each word of used_
   std::size_t count_ = 0;
   std::vector<std::int32_t> tree_;  // until finish() the positions, then maxima: the root is 1,
-                                    // 2i and 2i + 1 stand under i, the positions come last
+                                    // 2i and 2i + 1 are under i, the positions come last
 };
 
 // What an index keeps beside its documented fields.

@@ -1,4 +1,4 @@
-// The cells of an index table: numbering, and the order in which groups stand in the file.
+// The cells of an index table: numbering, and the order in which groups are in the file.
 #ifndef KZ_DICTIONARY_INDEX_SHAPE_H
 #define KZ_DICTIONARY_INDEX_SHAPE_H
 
@@ -14,7 +14,7 @@ using Slots = std::array<int, 3>;
 
 // A table of n rows for n letters, each with n + 1 cells (depth 2) or (n + 1) * (n + 1) cells
 // (depth 3). A cell number tells where a cell is stored; its rank tells when its group comes: the
-// head before the letters, where the number has it behind them.
+// head before the letters, where the number has it after them.
 struct IndexShape {
   int n;
   bool three;  // depth 3
@@ -50,7 +50,7 @@ struct IndexShape {
   int slot(std::size_t place) const { return place == 0 ? n : static_cast<int>(place) - 1; }
 };
 
-// The positions that a block can have: behind the smallest header that there is, and not behind
+// The positions that a block can have: after the smallest header that there is, and not after
 // the end of the record area.
 inline bool inside_records(std::int64_t position, std::int32_t index_offset) {
   constexpr std::int64_t kSmallestHeader = 124;

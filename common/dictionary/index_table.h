@@ -1,7 +1,7 @@
 // The table of a CDicIndex, and how it leads to what the library keeps for an index beside it.
 //
 // Programs have the size of CDicIndex compiled in, as part of CDic: it has no field for a pointer
-// of the library's own. So that pointer is stored in front of the first entry of the table.
+// of the library's own. So that pointer is stored before the first entry of the table.
 #ifndef KZ_DICTIONARY_INDEX_TABLE_H
 #define KZ_DICTIONARY_INDEX_TABLE_H
 

@@ -155,7 +155,7 @@ EntryWalk::Verdict EntryWalk::examine(const RecordOutputs& outputs) {
   return Verdict::kKeep;
 }
 
-// Whether the records that begin with the letter come after the range. The alphabet of 43 letters
+// True when the records that begin with the letter come after the range. The alphabet of 43 letters
 // is not in the order of the code page: é and œ lie after z there. What is no letter of it stands
 // before them all.
 bool EntryWalk::is_after_end(char letter) const {

@@ -21,7 +21,7 @@ struct RecordParts {
   void copy_to(const RecordOutputs& outputs) const;
 
   std::string_view headword;  // the form to be shown, when the record has one
-  char code = 0;              // the character behind the last '*', 0 when there is none
+  char code = 0;              // the character after the last '*', 0 when there is none
   std::string_view body;
   std::optional<std::string_view> extra;  // with its backslash
 };

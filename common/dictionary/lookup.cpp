@@ -1,4 +1,4 @@
-// Finding a word and walking the records behind it.
+// Finding a word and walking the records after it.
 #include "dictionary/lookup.h"
 
 #include <algorithm>
@@ -174,7 +174,7 @@ bool Lookup::take_packed(std::string_view before, const PackedRecord& record) {
   return true;
 }
 
-// What only a walk from the record on needs is left to sync_cursor.
+// A walk that goes on from the record needs more: sync_cursor does that.
 const char* Lookup::take_cached(const CachedRecord& record, std::int16_t level) {
   s_.cached = &record;
   s_.found = true;

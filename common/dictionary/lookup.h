@@ -25,7 +25,7 @@ struct SearchState {
   bool packed = false;
   bool whole_words = false;  // a packed word list: an exact match ends with the record
   HeadwordCache headwords;
-  // Letter groups of the index whose headwords are not in the table, once one of them is.
+  // Letter groups of the index whose headwords are not in the cache, once one of them is.
   std::optional<std::size_t> uncached_groups;
   std::size_t texts_max;  // bytes that the decoded texts of a block may take
   BlockStore blocks;      // those that the index does not keep
@@ -40,9 +40,9 @@ struct SearchState {
   std::int32_t next = 0;
   bool found = false;
   bool more = false;
-  const CachedRecord* cached = nullptr;  // the record found, when the table of headwords knew it
+  const CachedRecord* cached = nullptr;  // the record found, when it came from the headword cache
   std::int32_t work_length = 0;          // of the packed record in the work record
-  bool entry_object_stale = false;      // the entry object does not show the found entry yet
+  bool entry_object_stale = false;       // the entry object does not show the found entry yet
 };
 
 // The private parts of a CDic, for the functions over its handle. It has no state of its own.

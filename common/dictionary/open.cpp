@@ -107,7 +107,7 @@ std::uint16_t Lookup::read_index(std::int16_t mode, const Header& header,
   d_.mode_ = static_cast<std::uint8_t>(mode);
   if (d_.file_.Seek(header.index_offset, 0) != header.index_offset) return DIC_ERR_FORMAT;
   if (const auto code = index.read(d_.file_)) return code;
-  // Records that begin behind their end are none.
+  // Records that begin after their end are none.
   const auto end = static_cast<std::uint32_t>(header.index_offset);
   d_.position_ = static_cast<std::int32_t>(std::min(header.data_offset, end));
   d_.file_.Seek(d_.position_, 0);

@@ -6,7 +6,7 @@
 namespace kz {
 namespace {
 
-// The byte that, behind a count of 0, ends a record area.
+// The byte that, after a count of 0, ends a record area.
 constexpr unsigned char kEndMark = 26;
 
 bool is_count(char c) { return static_cast<unsigned char>(c) < kStoredTextMin; }
@@ -24,7 +24,7 @@ std::size_t shared_length(std::string_view a, std::string_view b) {
 }  // namespace
 
 bool read_packed(RecordRange& range, std::int32_t offset, PackedRecord& record) {
-  // The record itself, and the two bytes behind it for the end marker.
+  // The record itself, and the two bytes after it for the end marker.
   const std::string_view ahead = range.at(offset, 1 + kPackedTextMax + 2);
   if (ahead.empty() || !is_count(ahead[0]) || is_end_marker(ahead)) return false;
   record.count = static_cast<unsigned char>(ahead[0]);

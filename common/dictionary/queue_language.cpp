@@ -10,7 +10,7 @@
 namespace kz {
 namespace {
 
-// Language codes as they stand in a name, in front of the extension's dot or another one.
+// Language codes as they are in a name, before the extension's dot or another one.
 constexpr std::string_view kDirections[] = {"ENRU.", "RUEN.", "FRRU.", "RUFR.", "DERU.", "RUDE."};
 constexpr std::string_view kLanguages[] = {"RU.", "EN.", "FR.", "DE."};
 

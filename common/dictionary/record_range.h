@@ -1,6 +1,6 @@
 // RecordRange: the bytes of the record area that one search covers.
 //
-// They stand in memory (a whole block), or are read from the file through a buffer as far as the
+// They are in memory (a whole block), or are read from the file through a buffer as far as the
 // search gets. Offsets count from the start of the range. What is asked for beyond the end of the
 // range is not there: the readers of records treat that as the end of data.
 #ifndef KZ_DICTIONARY_RECORD_RANGE_H
@@ -30,14 +30,14 @@ class RecordRange {
   std::int32_t size() const { return size_; }
 
   // The bytes from `offset` on: at least `count` of them (at most kBufferSize), fewer only where
-  // the range ends. Empty behind the end and after a failed read. The view holds until the next
+  // the range ends. Empty after the end and after a failed read. The view holds until the next
   // call.
   std::string_view at(std::int32_t offset, std::int32_t count);
 
   // A read of the file gave fewer bytes than the file had when it was opened.
   bool failed() const { return failed_; }
 
-  // Offset of the first occurrence of a byte at or behind `offset`, the size when there is none.
+  // Offset of the first occurrence of a byte at or after `offset`, the size when there is none.
   std::int32_t find(char byte, std::int32_t offset);
   // Offset of the first occurrence of a text of at most kBufferSize bytes, -1 when there is none.
   std::int32_t find(std::string_view text);

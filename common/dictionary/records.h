@@ -33,7 +33,7 @@ constexpr char invert_top_bit(char c) { return static_cast<char>(c ^ '\x80'); }
 
 struct PlainRecord {
   std::string_view text;  // at most kEntryTextMax characters; holds until the range is used again
-  std::int32_t end = 0;   // offset of the line feed behind it, or the end of the range
+  std::int32_t end = 0;   // offset of the line feed after it, or the end of the range
 };
 
 // Offset of the first record that begins with `key`, -1 when there is none.
@@ -57,7 +57,7 @@ bool read_packed(RecordRange& range, std::int32_t offset, PackedRecord& record);
 
 // Finds the first record that begins with the stored key, or, with `whole`, that equals it; false
 // when there is none. The first record's leading characters are taken to be those of the key: the
-// record before it, which has them, stands in front of the range.
+// record before it, which has them, is before the range.
 //
 // The text of the record found is the first `record.count` characters of the key and
 // `record.stored`.

@@ -7,8 +7,8 @@
 
 namespace kz {
 
-// Where in an entry a reference to shared text stands: the body, when it is a number, with a lone
-// source mark behind it.
+// The place of a reference to shared text in an entry: the body, when it is a number, with a lone
+// source mark after it.
 struct SharedReference {
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 

@@ -9,7 +9,7 @@
 namespace kz::entry {
 
 // Appends to a caller's buffer, which may be the one that is being read as long as the output does
-// not overtake the input. What comes when `room` characters stand there is dropped.
+// not overtake the input. What comes when `room` characters are there is dropped.
 class BlankWriter {
  public:
   BlankWriter(char* begin, std::size_t room) : begin_(begin), end_(begin), limit_(begin + room) {}

@@ -1,7 +1,7 @@
 // Tests that tell grammar code letters from ordinary text.
 //
 // Entry text mixes words and one-letter grammar codes; which letters are codes depends on the
-// languages: in front of Russian text every Latin letter is one, in front of English text Latin
+// languages: before Russian text every Latin letter is one, before English text Latin
 // capitals and Russian letters are. Each test below is one row of classes, applied by table.
 #ifndef KZ_ENTRY_CODE_LETTER_H
 #define KZ_ENTRY_CODE_LETTER_H
@@ -50,7 +50,7 @@ constexpr bool in_set(char c, CharSet set) {
   return (detail::kCharSets[static_cast<unsigned char>(c)] & set) != 0;
 }
 
-// The character at position i, zero behind the end.
+// The character at position i, zero after the end.
 constexpr char char_at(std::string_view text, std::size_t i) {
   return i < text.size() ? text[i] : '\0';
 }
@@ -139,7 +139,7 @@ constexpr char closing_of(char c) {
 }
 
 // The contents of the group that opens at position i, up to its first closing character or the end;
-// `after` is set behind that character. Groups do not nest.
+// `after` is set after that character. Groups do not nest.
 constexpr std::string_view group_at(std::string_view text, std::size_t i, std::size_t& after) {
   const std::size_t end = text.find(closing_of(text[i]), i + 1);
   after = end == std::string_view::npos ? text.size() : end + 1;

@@ -34,7 +34,7 @@ struct EntryConverter {
     return is_russian_table(letter) ? pages.russian : pages.western;
   }
 
-  // Converts part code and attribute block; the position behind them. An extension of the part
+  // Converts part code and attribute block; the position after them. An extension of the part
   // code, between the two, is ASCII.
   std::size_t convert_head(std::size_t part) const {
     if (part == entry.size()) return part;

@@ -40,7 +40,7 @@ class MixedConverter {
   }
 
  private:
-  // Whether the code is a special letter of the language, which may as well be a Russian letter.
+  // True when the code is a special letter of the language, which may as well be a Russian letter.
   bool is_in_doubt(char c) const {
     const unsigned char letter = pages_.western_to_ansi[static_cast<unsigned char>(c)];
     return letter >= 128 && base_letters_[letter] != letter;

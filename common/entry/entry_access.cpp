@@ -14,7 +14,7 @@ using kz::entry::copy_out;
 using kz::entry::view;
 
 namespace kz::entry {
-// What stands in front of a cross-reference, in either language of the user.
+// What precedes a cross-reference, in either language of the user.
 constexpr std::string_view kSeeEnglish = "See: ";
 constexpr std::string_view kSeeRussian = U"См.: "_1251;
 }  // namespace kz::entry
@@ -45,7 +45,7 @@ const CDicEntryMeaning* meaning_at(const ZCObArray& meanings, int i) {
   return static_cast<const CDicEntryMeaning*>(meanings.GetAt(i));
 }
 
-// Whether a cross-reference leads to a word of the source language.
+// True when a cross-reference leads to a word of the source language.
 bool leads_to_source(std::string_view reference, const char* language) {
   if (reference.size() < 2) return false;
   const bool into_russian = kz::entry::Direction(language).third == 'R';

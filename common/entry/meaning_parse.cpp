@@ -61,7 +61,7 @@ bool MeaningParser::next(MeaningParts& meaning) {
         return true;
       }
     }
-    // Behind a code label a number is a label of the same short form.
+    // After a code label a number is a label of the same short form.
     const std::string_view label = after_code ? take_code_label() : take_number_label();
     if (!after_code || tag_codes_) meaning.tag = label;
     step_over_colon();
@@ -116,7 +116,7 @@ std::string_view MeaningParser::take_text(bool phrases) {
   return text;
 }
 
-// Behind the slash that closes the run of phrases at position i; a backslash or the end close it
+// After the slash that closes the run of phrases at position i; a backslash or the end close it
 // too. "/;" goes on with the next phrase.
 std::size_t MeaningParser::end_of_phrase_run(std::size_t i) const {
   for (;;) {
@@ -126,7 +126,7 @@ std::size_t MeaningParser::end_of_phrase_run(std::size_t i) const {
   }
 }
 
-// 'W', with up to two code letters in front of it.
+// 'W', with up to two code letters before it.
 bool MeaningParser::phrase_starts(std::size_t i) const {
   for (int codes = 0; codes <= 2; ++codes, ++i) {
     if (char_at(body_, i) == 'W') return true;

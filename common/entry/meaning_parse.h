@@ -23,7 +23,7 @@ struct MeaningContext {
   char kind = 0;
 };
 
-// Whether a character of a body opens a group of synonyms. Never, except in translation entries
+// True when a character of a body opens a group of synonyms. Never, except in translation entries
 // that are not phrases.
 entry::CodeLetterTest synonym_part_test(const MeaningContext& context);
 

@@ -19,7 +19,7 @@ constexpr std::size_t kLabelReach = 9;
 constexpr std::size_t kAttrReach = 7;
 constexpr std::size_t kExtendedCodeSize = 7;
 
-// Position behind the bracket that matches the one at i.
+// Position after the bracket that matches the one at i.
 std::size_t behind_block(std::string_view text, std::size_t i) {
   std::size_t depth = 0;
   for (; i < text.size(); ++i) {
@@ -83,7 +83,7 @@ std::size_t extended_code_size(std::string_view text) {
 
 namespace {
 
-// Behind the brace or bracket group at p, null when none opens there.
+// After the brace or bracket group at p, null when none opens there.
 const char* behind_group(const char* p) {
   if (*p != '{' && *p != '[') return nullptr;
   const char* const end = std::strchr(p + 1, entry::closing_of(*p));
@@ -114,7 +114,7 @@ const char* find_next_part(const char* p, char target_letter, char part) {
       p = group;
     } else if (!phrase && target_letter == 'R' && in_set(*p, entry::kLatin) &&
                in_set(p[1], entry::kDigit)) {
-      // A letter, its digit and the character behind them are one sign of text.
+      // A letter, its digit and the character after them are one sign of text.
       p += p[2] == 0 ? 2 : 3;
     } else if (!phrase && *p == 'W') {
       return behind_next_slash(p);

@@ -11,7 +11,7 @@ constexpr std::size_t kNotFound = std::string_view::npos;
 constexpr std::string_view kSourceWordMark = "\\\\";
 constexpr char kSourceRefMark = '\\';
 
-// The attribute view starts among the first eight characters behind the part code.
+// The attribute view starts among the first eight characters after the part code.
 constexpr std::size_t kAttrReach = 8;
 
 std::string_view cut_before(std::string_view& rest, std::size_t mark, std::size_t mark_size) {

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kNotFound = std::string_view::npos;
 
-// Position behind the next `closing` at or after i, the end when there is none.
+// Position after the next `closing` at or after i, the end when there is none.
 std::size_t behind(std::string_view text, char closing, std::size_t i) {
   const std::size_t found = text.find(closing, i);
   return found == kNotFound ? text.size() : found + 1;
@@ -61,7 +61,7 @@ std::string_view space_synonym(std::string_view synonym, const CodeLetterTest& c
                                SynonymRoom& room) {
   BlankWriter out(room.data(), room.size());
   std::size_t i = 0;
-  // Copies up to `end`, with a blank in front or behind where asked and none stands there yet.
+  // Copies up to `end`, with a blank in front or after where asked and none is there yet.
   const auto copy_to = [&](std::size_t end, bool blank_before, bool blank_after) {
     if (blank_before) out.separate();
     out.put(synonym.substr(i, end - i));

@@ -115,7 +115,7 @@ struct ArrayCore {
     }
   }
 
-  // Two moves: the first brings the upper block down, the second the lower one up behind what stood
+  // Two moves: the first brings the upper block down, the second the lower one up after what stood
   // between them. Neighbours are swapped by the first alone.
   static void change(Array& array, std::int64_t a, std::int64_t b, std::int64_t count) {
     const auto [low, high] = std::minmax(a, b);

@@ -1,4 +1,4 @@
-// Line reading: read ahead, with the position behind the line in the end.
+// Line reading: read ahead, with the position after the line in the end.
 //
 // A regular file is read in chunks until the line end is found, and the position then moves back to
 // it: two calls of the system for most lines. Pipes and devices are read byte by byte.
@@ -53,7 +53,7 @@ class LineScanner {
     }
   }
 
-  // Copies the characters of the scanned line and moves the position behind it. Returns how many
+  // Copies the characters of the scanned line and moves the position after it. Returns how many
   // there are: fewer only if the file has been cut short meanwhile.
   std::size_t take(const Line& line, char* characters) {
     const auto size = static_cast<std::size_t>(line.size);

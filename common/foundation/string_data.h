@@ -49,12 +49,12 @@ inline bool is_locked(char* text) {
   return text != none() && references(text).load(std::memory_order_relaxed) < 0;
 }
 
-// Whether `length` characters can be written into this buffer, or are none.
+// True when `length` characters can be written into this buffer, or are none.
 inline bool holds(char* text, std::size_t length) {
   return !is_shared(text) && length <= static_cast<std::size_t>(header(text).allocated);
 }
 
-// A new buffer of one reference, tag 0 and a NUL behind `length` characters still to be written;
+// A new buffer of one reference, tag 0 and a NUL after `length` characters still to be written;
 // none() for 0 characters. Like everything that allocates here it ends the process when there is no
 // memory or `length` is more than an int can tell.
 char* allocate(std::size_t length) noexcept;

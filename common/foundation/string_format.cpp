@@ -34,7 +34,7 @@ int number_at(const char*& format) {
   return static_cast<int>(number);
 }
 
-// One item of a format, from behind its '%'.
+// One item of a format, from after its '%'.
 struct Item {
   std::int64_t extra = 0;  // for '#'
   int width = 0;

@@ -41,7 +41,7 @@ Names names_of_kind(int16_t kind) {
   }
 }
 
-// Applies the class whose index, a signed number, stands in the field.
+// Applies the class whose index, a signed number, is in the field.
 void expand(GRAMINFO& gram, const Field& index_field, std::span<const WordClass> classes) {
   const auto index = static_cast<std::int8_t>(index_field.get(gram));
   if (index < 0 || static_cast<std::size_t>(index) >= classes.size()) return;

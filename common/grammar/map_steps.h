@@ -16,7 +16,7 @@ namespace kz {
 
 struct MapSteps {
   WordRecordView record;
-  GRAMINFO gram;  // a copy: the record's own stands at any address
+  GRAMINFO gram;  // a copy: the record's own is at any address
   unsigned char code;
 
   bool has(Flag flag) const { return flag.is_set(gram); }
@@ -65,7 +65,7 @@ struct MapSteps {
   void er_verb() const;
   void re_verb() const;
 
-  // Whether the word is this one, given in small letters.
+  // True when the word is this one, given in small letters.
   bool word_is(std::string_view small) const;
 };
 

@@ -16,7 +16,7 @@ bool ends_grammar(char c) { return c == '\0' || c == ')' || c == ']' || c == '\\
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
-// The capitals among which the letters of the second and third case set stand.
+// The capitals among which the letters of the second and third case set are.
 bool is_case_capital(char c) {
   const auto code = static_cast<unsigned char>(c);
   return code >= U'В'_1251 && code <= U'Т'_1251;

@@ -64,7 +64,7 @@ char* write_common(char* out, const GRAMINFO& gram) {
 // The tags of each group in the order in which they are written; a field has no flag.
 struct WrittenTag {
   Flag flag{};
-  char letter = 0;  // 0 behind the last
+  char letter = 0;  // 0 after the last
   bool is_negated = false;
 };
 using WrittenTags = std::array<WrittenTag, 64>;

@@ -8,7 +8,7 @@
 
 namespace kz {
 
-// Nodes are numbered from 0, the root, in the order in which they were added. All edges stand in
+// Nodes are numbered from 0, the root, in the order in which they were added. All edges are in
 // one hash table, so that a step costs one probe, and a trie of a few thousand nodes fits the
 // processor's cache.
 class ByteTrie {

@@ -147,7 +147,7 @@ struct InflectionCore {
     return DIC_OK;
   }
 
-  // Whether the table has been loaded in earnest, now or before.
+  // True when the table has been loaded in earnest, now or before.
   static bool is_loaded(Table& table) {
     if (!table.entries_.IsEmpty()) return true;
     if (table.load_flag_ == 0) return false;

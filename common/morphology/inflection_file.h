@@ -23,7 +23,7 @@ inline constexpr std::size_t kLargestInflectionFile =
 
 using InflectionEntries = std::vector<std::unique_ptr<CGrSrcWordObj>>;
 
-// The entries of a file, nothing when it is damaged. What stands behind the last entry is ignored.
+// The entries of a file, nothing when it is damaged. What follows the last entry is ignored.
 std::optional<InflectionEntries> decode_inflection(std::span<const std::uint8_t> file);
 
 // The number of entries, and one entry, as the file holds them.

@@ -36,7 +36,7 @@ char* append(char* output, std::string_view text) {
   return std::copy(text.begin(), text.end(), output);
 }
 
-// A name and what stands behind it; nothing for index 0.
+// A name and what follows it; nothing for index 0.
 char* append_name(char* output, std::size_t kind, int index, std::string_view behind) {
   if (index == 0) return output;
   const char* const name =

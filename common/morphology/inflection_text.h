@@ -8,7 +8,7 @@
 
 namespace kz {
 
-// Reads the attributes behind the ending of a line: "name name number name | name ...". False when
+// Reads the attributes after the ending of a line: "name name number name | name ...". False when
 // there are none.
 bool read_attributes(std::string_view text, CGrSrcWordObj& entry);
 

@@ -45,7 +45,7 @@ bool rename_file(const char* from, const char* to) noexcept;
 bool remove_file(const char* name);
 
 // The path of a name from the root on, without "." parts and doubled separators; ".." parts are
-// resolved except behind a symbolic link. The file need not exist. Fails for an empty name.
+// resolved except after a symbolic link. The file need not exist. Fails for an empty name.
 std::optional<std::string> absolute_path(const char* name) noexcept;
 
 }  // namespace kz::platform

@@ -24,7 +24,7 @@ bool read_info(int directory, const char* name, int flags, FileInfo& info) {
   return true;
 }
 
-// Whether the last part of a path begins with a dot; the parts "." and ".." are no such names.
+// True when the last part of a path begins with a dot; the parts "." and ".." are no such names.
 bool is_hidden(std::string_view path) {
   while (path.ends_with('/')) path.remove_suffix(1);
   const std::string_view name = path.substr(path.rfind('/') + 1);

@@ -1,15 +1,15 @@
 // Sharing rules between opens, by open-file-description locks.
 //
-// Four zones of byte offsets, far behind the end of any file and behind every range that
+// Four zones of byte offsets, far beyond the end of any file and beyond every range that
 // lock_range can reach, stand for what an open does ("reads", "writes") and for what it denies to
 // others ("denies reads", "denies writes"). An open locks a byte in each zone that applies to it
 // and then asks whether anybody else holds a lock in the opposite zones. Such locks belong to the
 // open file description: they count between two opens of one process as between processes, go with
 // duplicates and end with the last of them, also when the process dies.
 //
-// Marks of many opens must stand side by side. A handle that can read takes a shared lock on the
+// Marks of many opens must be side by side. A handle that can read takes a shared lock on the
 // zone's first byte; a handle that can only write cannot take shared locks and takes an exclusive
-// one on a byte of its own behind it.
+// one on a byte of its own after it.
 #include "platform/sharing.h"
 
 #include <fcntl.h>
@@ -55,7 +55,7 @@ bool place(int handle, short type, off_t start) {
 
 bool is_held_elsewhere() { return errno == EAGAIN || errno == EACCES; }
 
-// Takes the first byte behind the zone's first one that is free.
+// Takes the first byte after the zone's first one that is free.
 bool place_exclusive(int handle, off_t zone) {
   off_t byte = zone + 1;
   while (byte < zone + kZoneSize) {

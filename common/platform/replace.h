@@ -19,7 +19,7 @@
 
 namespace kz::platform {
 
-// Unfinished files are named so, with 16 random hexadecimal digits behind it. Those of a process
+// Unfinished files are named so, with 16 random hexadecimal digits after it. Those of a process
 // that was killed stay; they may be deleted.
 inline constexpr std::string_view kUnfinishedPrefix = ".kz-unfinished-";
 

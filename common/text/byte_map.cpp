@@ -35,7 +35,7 @@ char* translate_text(const char* source, char* destination, const Translation& t
     *destination = static_cast<char>(translation[*source]);
   }
   for (;;) {
-    // memchr reads no byte behind the zero that it finds.
+    // memchr reads no byte beyond the zero that it finds.
     const void* end = std::memchr(source, 0, piece_size);
     const std::size_t size = end != nullptr
                                  ? static_cast<std::size_t>(static_cast<const char*>(end) - source)

@@ -11,7 +11,7 @@ constexpr std::size_t reference_size = 6;  // "&#196;"
 
 bool is_decimal(char c) { return is_in(c, char_class::digit); }
 
-// Whether a reference of three digits stands here. Looks no further than the first character that
+// True for a reference of three digits. Looks no further than the first character that
 // breaks it, so that it never passes the final zero.
 bool is_reference(const char* text) {
   return text[0] == '&' && text[1] == '#' && is_decimal(text[2]) && is_decimal(text[3]) &&

@@ -30,7 +30,7 @@ constexpr char to_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char
 
 }  // namespace language_code
 
-// Whether the first two characters of a text, in any case, are the two capitals of `code`. A null
+// True when the first two characters of a text, in any case, are the two capitals of `code`. A null
 // text names no language.
 constexpr bool is_language(const char* text, const char (&code)[3]) {
   return text != nullptr && language_code::to_upper(text[0]) == code[0] &&

@@ -1,7 +1,7 @@
 // The letters, punctuation and box-drawing characters that the code pages share.
 //
-// Everything the library knows of single characters stands here once; the conversions, classes
-// and case maps are computed from it at compile time.
+// Everything the library knows of single characters is described here once; the conversions,
+// classes and case maps are computed from it at compile time.
 #ifndef KZ_TEXT_LETTERS_H
 #define KZ_TEXT_LETTERS_H
 

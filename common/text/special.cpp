@@ -23,7 +23,7 @@ bool equal_ignoring_case(const char* a, const char* b) {
   return false;
 }
 
-// Whether both texts begin with the code of the same language.
+// True when both texts begin with the code of the same language.
 bool same_language(const char* a, const char* b) {
   const auto both = [&](const char(&code)[3]) {
     return is_language(a, code) && is_language(b, code);

@@ -12,16 +12,16 @@
 
 namespace kz::smart {
 
-// What a rule asks of the place where its letter stands.
+// What a rule asks of the place where its letter is.
 enum class Place : std::uint8_t {
   anywhere,
   start,                   // first in the text
-  behind_no_vowel,         // first in the text, or behind a character that is no vowel
+  behind_no_vowel,         // first in the text, or after a character that is no vowel
   fourth_on,               // at least three characters before it
   fourth_behind_no_vowel,  // both of the last two, a real character before it
 };
 
-// `letter` with `follow` behind it becomes `out`, which stands for `size` characters from the
+// `letter` with `follow` after it becomes `out`, which stands for `size` characters from the
 // letter on; a rule may look further than these. Each sign of `follow` stands for one character:
 //   a to z   the letter, small or capital
 //   =r =o    the small letter only

@@ -33,7 +33,7 @@ bool is_place(Place place, const char* text, std::size_t position) {
   return false;
 }
 
-// No sign but the last of a pattern takes the end of the text, so that nothing behind it is read.
+// No sign but the last of a pattern takes the end of the text, so that nothing after it is read.
 bool applies(const Rule& rule, const char* text, std::size_t position) {
   for (std::size_t i = 0; i < rule.follow_size; ++i) {
     if ((kind_of(text[position + 1 + i]) & rule.follow[i]) == 0) return false;
@@ -49,7 +49,7 @@ const Rule& rule_at(const char* text, std::size_t position) {
   return *rule;
 }
 
-// Writes what a rule gives for a capital; the second letter and those behind it are capitals only
+// Writes what a rule gives for a capital; the second letter and those after it are capitals only
 // when the next source character is one.
 char* write_capitals(const Rule& rule, char next, char* out) {
   const std::size_t capitals = is_capital(next) ? rule.out_size : 1;

@@ -7,7 +7,7 @@
 namespace kz {
 
 // Takes the next token off the front of `text`: skips characters of the delimiter set, and leaves
-// what stands behind the token, its delimiter first. Empty when there are no more tokens.
+// what follows the token, its delimiter first. Empty when there are no more tokens.
 inline std::string_view next_token(std::string_view& text, std::string_view delimiters) {
   const std::size_t begin = text.find_first_not_of(delimiters);
   if (begin == std::string_view::npos) return text = {};

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The separator that follows the one at `current`: a backslash, behind the last of them a slash.
+// The separator that follows the one at `current`: a backslash, after the last of them a slash.
 std::size_t next_separator(std::string_view directory, std::size_t current) {
   const std::size_t backslash = directory.find('\\', current + 1);
   return backslash != std::string_view::npos ? backslash : directory.find('/', current + 1);

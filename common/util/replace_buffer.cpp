@@ -16,7 +16,7 @@ namespace kz {
 namespace {
 
 constexpr std::size_t kDefaultSize = 16100;
-constexpr std::size_t kTerminator = 2;  // zero bytes behind the text
+constexpr std::size_t kTerminator = 2;  // zero bytes after the text
 constexpr std::size_t kLeastSize = kBufferLineEnd.size() + kTerminator;
 constexpr std::size_t kWordLimit = 255;
 constexpr std::size_t kSearchLimit = 251;

@@ -10,7 +10,7 @@ namespace kz {
 
 inline constexpr std::string_view kBufferLineEnd = "\r\n";
 
-// What a line says. A line ends at a carriage return; a line feed in front of it is no part of it.
+// What a line says. A line ends at a carriage return; a line feed before it is no part of it.
 struct BufferLine {
   std::string_view word;
   std::optional<std::string_view> replacement;
@@ -26,7 +26,7 @@ inline std::optional<BufferLine> read_line(std::string_view text) {
   return BufferLine{line.substr(0, equals), line.substr(equals + 1)};
 }
 
-// Positions in the text of a buffer: of its first line, and of the line behind another one.
+// Positions in the text of a buffer: of its first line, and of the line after another one.
 inline std::size_t first_line(std::string_view text) {
   return text.starts_with(kBufferLineEnd) ? kBufferLineEnd.size() : 0;
 }

@@ -88,7 +88,7 @@ void WordReplacer::complete_table() {
   }
 }
 
-// The first place at which a word may stand, so that no word ends in front of the first one that
+// The first place at which a word may be, so that no word ends before the first one that
 // ends in the text; the end when there is none.
 const char* WordReplacer::find_place(const char* at, const char* end) const {
   State state = kRoot;
@@ -99,14 +99,14 @@ const char* WordReplacer::find_place(const char* at, const char* end) const {
   return end;
 }
 
-// The first line from number `first` on whose word stands here.
+// The first line from number `first` on whose word is here.
 WordReplacer::LineNumber WordReplacer::find_line(const char* at, const char* end,
                                                  LineNumber first) const {
   LineNumber found = kNone;
   State state = kRoot;
   for (std::uint32_t length = 1; at != end; ++length) {
     state = table_[state + class_of(*at++)] & ~kWordEnds;
-    if (depth(state) != length) break;  // what stands here is no beginning of a word
+    if (depth(state) != length) break;  // what is here is no beginning of a word
     if (word(state) == kNone) continue;
     const std::vector<LineNumber>& lines = word_lines_[word(state)];
     const auto line = std::lower_bound(lines.begin(), lines.end(), first);
@@ -131,7 +131,7 @@ char* WordReplacer::replace(std::string_view source, char* output) const {
         output = std::copy(line.replacement->begin(), line.replacement->end(), output);
         break;
       }
-      // Behind a dropped word only the lines that remain are tried, then one character is kept.
+      // After a dropped word only the lines that remain are tried, then one character is kept.
       number = find_line(at, end, number + 1);
       if (number == kNone && at != end) *output++ = *at++;
     }

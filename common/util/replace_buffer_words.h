@@ -18,7 +18,7 @@ namespace kz {
 //
 // A state stands for a beginning of a word. The automaton reads the text, one table access per
 // character, and is always in the state of the longest beginning that ends there. So when a word
-// ends at a place, no word that is still possible begins in front of that beginning: from there on,
+// ends at a place, no word that is still possible begins before that beginning: from there on,
 // up to that word, the places are looked at closely.
 class WordReplacer {
  public:

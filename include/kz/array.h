@@ -70,20 +70,20 @@ class KZ_API ZCByteArray {
 
   // Stores element i; an array shorter than that is first made i + 1 elements long.
   void SetAtGrow(int i, std::uint8_t element);
-  // Stores the element behind the last one; its index, -1 when the array cannot grow.
+  // Stores the element after the last one; its index, -1 when the array cannot grow.
   int Add(std::uint8_t element);
-  // Copies other's elements behind the last one; the index of the first of them, -1 when the array
+  // Copies other's elements after the last one; the index of the first of them, -1 when the array
   // cannot grow. An array appended to itself repeats its former elements once.
   int Append(const ZCByteArray& other);
   // Makes this array's elements the same as other's.
   void Copy(const ZCByteArray& other);
-  // Opens count slots at i and stores element in each; behind the end the array grows to i + count
+  // Opens count slots at i and stores element in each; after the end the array grows to i + count
   // elements, the skipped ones zero (empty strings).
   void InsertAt(int i, std::uint8_t element, int count);
   // Inserts other's elements at i. Null or empty: no effect. An array inserted into itself inserts
   // its former elements.
   void InsertAt(int i, ZCByteArray* other);
-  // Removes count elements from i; those behind move down, the block keeps its room. No effect
+  // Removes count elements from i; those after move down, the block keeps its room. No effect
   // unless the elements i to i + count - 1 exist.
   void RemoveAt(int i, int count = 1);
 

@@ -3,7 +3,7 @@
  * The names spell what they do: str, then the code page (ruansi Windows-1251, ruoem CP866, ansi
  * Windows-1252, oem CP850), then i (ignore case), a (ignore accents) or ai (both), n (at most n
  * characters), cmp. There is no collation by language: order is that of the folded codes, so that
- * yo stands before all other Russian letters in Windows-1251 and after them in CP866.
+ * yo is before all other Russian letters in Windows-1251 and after them in CP866.
  *
  *   const char* headword = "\xC9" "cole";  // with an accent on its first letter
  *   if (stransiaicmp("ecole", headword, "FR") == 0) puts("found");  // prints "found"

@@ -16,7 +16,7 @@
  *   DicSysClose(set);
  *
  * A descriptor's path that holds neither '/' nor '\' is a file name in the directory of the set,
- * which is a prefix taken as it stands. A completed path has at most 259 characters and a token of
+ * which is a prefix taken as it is. A completed path has at most 259 characters and a token of
  * a path list at most 267; longer ones are refused. Every function does nothing for a null set and
  * returns what is said then. The mode of a descriptor is a byte; a position is DIC_APPEND (as any
  * negative number), or the index of the descriptor to be replaced. */
@@ -46,7 +46,7 @@ KZ_API ZCObArray* DicArraySelect(CDicSys* set, const char* language);
 KZ_API int DicArrayInit(CDicSys* set);
 
 /* Puts a descriptor into the array of the direction: the name is taken as the path when the full
- * path flag is not 0, else completed by the directory of the set. A position at or behind the end
+ * path flag is not 0, else completed by the directory of the set. A position at or after the end
  * makes the array longer, with empty slots in between. Returns the position as given; -1 for a null
  * set, without a direction, and for a path that is too long or null. */
 KZ_API int16_t DicArraySet(CDicSys* set, int16_t position, const char* name, int16_t mode,
@@ -86,7 +86,7 @@ KZ_API void DicArrayParmStr(CDicSys* set, char* output);
 
 /* Fills the array of a direction (its first 4 characters count) from a list of "path:mode" tokens,
  * separated by any run of the characters ; , ) blank and tab. What the array held before is
- * unloaded first. The text behind the last ':' is the mode, 0 when it is no number; so a path that
+ * unloaded first. The text after the last ':' is the mode, 0 when it is no number; so a path that
  * itself has a ':' needs its mode. Each descriptor is put at the position given: with anything but
  * -1 only the last one stays. The list may be a text of what is unloaded. Returns the index of the
  * array's last descriptor, -1 when it is empty and for a direction that does not exist; 0 for a
@@ -133,7 +133,7 @@ class KZ_API CDicArray : public ZCObject {
  public:
   /* No path, mode 0, not marked as loaded. */
   CDicArray();
-  /* Takes down the three values, the shorts as bytes; a null path is an empty one. */
+  /* Stores the three values, the shorts as bytes; a null path is an empty one. */
   CDicArray(const char* path, int16_t mode, int16_t loaded);
   ~CDicArray() override;
 

@@ -25,7 +25,7 @@
 extern "C" {
 #endif
 
-/* The header as it stands in the file, without gaps. Integers are little-endian. Texts are padded
+/* The header as it is in the file, without gaps. Integers are little-endian. Texts are padded
  * with zero bytes; Label and Title are not terminated when they fill their field. */
 typedef struct __attribute__((packed)) DicHeader {
   char Signature[48];     /* DIC_SIGNATURE and four zero bytes */

@@ -78,7 +78,7 @@ KZ_API int IsValidWordBegin(const char* word);
 /* --- Comparison of letters with accents; negative when `a` sorts first. --- */
 
 /* Difference of two characters in the letter order of a language: plain byte order when the code
- * begins with 'R', else special letters (kz_codr_is_spec_char) stand after all plain ones, among
+ * begins with 'R', else special letters (kz_codr_is_spec_char) are after all plain ones, among
  * themselves in the order of the 43-letter alphabet. */
 KZ_API int16_t kz_codr_accompare(int a, int b, const char* language);
 
@@ -118,7 +118,7 @@ struct KeyRecord;
 }  // namespace kz
 
 // The letter index of one dictionary. To write one: Init with access mode 0 and record count 0,
-// SetFileIndex before each record in sort order, and Write behind the last record.
+// SetFileIndex before each record in sort order, and Write after the last record.
 class KZ_API CDicIndex {
  public:
   // The access letter is 'R' for reading; see SetAccessMode.

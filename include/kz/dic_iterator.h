@@ -3,7 +3,7 @@
  * DicIteratorOpen takes an open dictionary or opens one from its path; DicSysIteratorOpen uses the
  * one that is open in a set. DicIteratorGetFirstEntry and DicIteratorGetNextEntry give the records
  * of a range of first letters in file order, those of some code characters (the part of speech
- * letter behind the last '*') if so asked.
+ * letter after the last '*') if so asked.
  *
  *   char word[DIC_ENTRY_ROOM];
  *   CDicEntryIterator* nouns = DicIteratorOpen(0, "pets.dic", "a", "", 0, "Nn", 1);
@@ -42,7 +42,7 @@ typedef CDicEntryIterator CDicSysEntryIterator;
  * the alphabet when that is null or empty; it ends with the first letter of the to word, with the
  * alphabet when that is empty, with the range's first letter when it is null. Letters that differ
  * in their accent only are one (kz_codr_base_member). Letters are compared by their codes, those of
- * an alphabet of 43 letters by their places in it; what is no letter of that stands before all
+ * an alphabet of 43 letters by their places in it; what is no letter of that is before all
  * letters. value: has no effect. filter: a text of code
  * characters, null or empty for no filter; include: not 0 keeps the records whose code character is
  * in the filter, 0 those whose code character is not. */
@@ -72,8 +72,8 @@ KZ_API void DicSysIteratorClose(CDicSysEntryIterator* iterator);
  * first letter of the range); the walk then ends with the records that this search covers.
  *
  * The outputs, each of which may be null, are zero-terminated copies (DIC_ENTRY_ROOM bytes are
- * always enough): headword, the text before the last '*', or, when the record has a text behind a
- * double backslash, that text, the form to be shown; code, the character behind the '*' (2 bytes);
+ * always enough): headword, the text before the last '*', or, when the record has a text after a
+ * double backslash, that text, the form to be shown; code, the character after the '*' (2 bytes);
  * body, the text from there to the first backslash; extra, the text from a single backslash, which
  * is included, to the next one. `extra` is left alone when the record has none. A record without
  * '*' is all headword. */

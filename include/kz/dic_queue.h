@@ -48,7 +48,7 @@ enum DicList {
                                  CDicSys::queue */
 };
 
-/* The position behind the last one. */
+/* The position after the last one. */
 enum { DIC_APPEND = -1 };
 
 /* --- Loading ---------------------------------------------------------------------------------- */
@@ -57,7 +57,7 @@ enum { DIC_APPEND = -1 };
 KZ_API CDic* DicQueOpen(CDicSys* set, const char* path, int16_t mode);
 
 /* Opens the dictionary file in an open mode (kz/dictionary.h) and files it: into its list of 1 to
- * 3, before the given position (DIC_APPEND, and a position behind the end, append it), and at the
+ * 3, before the given position (DIC_APPEND, and a position after the end, append it), and at the
  * end of list 0. Its id becomes its position in its list.
  *
  * First a dictionary of the same file name is unloaded as by DicQueUnLoad(set, path, mode); when
@@ -99,8 +99,8 @@ KZ_API int DicQueGetSize(CDicSys* set, int16_t list);
  * with index -1, for an index outside the list. */
 KZ_API CDic* DicQueFirst(CDicSys* set, int16_t list, int16_t index);
 
-/* Steps the list to the dictionary behind its current index and returns it; null, with index -1,
- * behind the last one, and while the index is -1. DIC_LIST_CURRENT is the current list, that of the
+/* Steps the list to the dictionary after its current index and returns it; null, with index -1,
+ * after the last one, and while the index is -1. DIC_LIST_CURRENT is the current list, that of the
  * latest DicQueFirst or DicQueNext; another one becomes the current list. */
 KZ_API CDic* DicQueNext(CDicSys* set, int16_t list);
 
@@ -151,7 +151,7 @@ KZ_API const char* DicQueFindRest(CDicSys* set, int16_t list, const char* word, 
  * with both empty for any other name. */
 KZ_API int DicDefineLangType(const char* name, char* language, char* type);
 
-/* The first of "ENRU.", "RUEN.", "FRRU.", "RUFR.", "DERU.", "RUDE." that stands anywhere in the
+/* The first of "ENRU.", "RUEN.", "FRRU.", "RUFR.", "DERU.", "RUDE." that is anywhere in the
  * name, in capitals, without the dot; the output (5 bytes) stays as it is when there is none. */
 KZ_API void DicDefineLang(const char* name, char* language);
 

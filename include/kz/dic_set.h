@@ -32,7 +32,7 @@ enum { DIC_SET_BUFFER_SIZE = 8193 };
 /* Opens a set. When the buffer flag (its low byte) is not 0, its work buffers are allocated. The
  * language is the working direction, in any case; at most 4 characters of it count, and null leaves
  * the set without one. The directory is the prefix of the dictionary file names, taken as it
- * stands: end it with a separator. Nothing is loaded. Returns the set, to be given to DicSysClose,
+ * is: end it with a separator. Nothing is loaded. Returns the set, to be given to DicSysClose,
  * or null when memory runs out. */
 KZ_API CDicSys* DicSysOpen(int16_t buffer_flag, const char* language, const char* directory);
 

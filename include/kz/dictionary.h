@@ -1,7 +1,7 @@
 /* Dictionaries: open one, look words up in it, walk the words that follow.
  *
  * DicOpen gives a handle, DicFind looks a word up and returns its entry, DicFindNext the entries
- * behind it, DicClose releases everything. Words and entries are in the dictionary's own code page
+ * after it, DicClose releases everything. Words and entries are in the dictionary's own code page
  * (Windows-1251 for Russian, Windows-1252 for German and French). What went wrong is in the
  * dictionary error variable (kz/dic_error.h).
  *
@@ -139,7 +139,7 @@ class Lookup;
 class KZ_API CDic {
  public:
   CDic();
-  /* Takes down the path and the mode, without opening anything. */
+  /* Stores the path and the mode, without opening anything. */
   CDic(const char* path, int16_t mode);
   CDic(const CDic&) = delete;
   CDic& operator=(const CDic&) = delete;

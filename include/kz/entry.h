@@ -23,19 +23,19 @@
 
 /* The kind of an entry: how it keeps synonyms. It is the type letter of the dictionary; only the
  * two kinds of translation dictionaries know the letters of part codes in a body, with which groups
- * of synonyms begin. In entries of any other kind, such as 'G', synonyms stay as they stand. */
+ * of synonyms begin. In entries of any other kind, such as 'G', synonyms stay as they are. */
 enum DicEntryKind {
   DIC_KIND_REDUCED = 'C', /* for an engine: without part codes */
   DIC_KIND_SPACED = 'c'   /* to be shown: with blanks around part codes and groups; the kind of the
                              entries that a dictionary of type 'C' gives (DicGetEntryHandler) */
 };
 
-/* The part code of an entry is the character behind the '*' of its text, such as 'N' for a noun or
+/* The part code of an entry is the character after the '*' of its text, such as 'N' for a noun or
  * 'V' for a verb (kz/gram_codec.h); 'W' and 'w' are phrases, '$' a body of free text, '=' a
  * reference to another entry. Where an entry is built: */
 enum { DIC_PART_IN_TEXT = 0 }; /* the text is a full entry, which has its part code */
 
-/* A meaning is one numbered part of a body, or the group of synonyms behind a part code: a tag (the
+/* A meaning is one numbered part of a body, or the group of synonyms after a part code: a tag (the
  * number, or the code), a definition in braces, and synonyms, which a ';' separates. Meanings and
  * the synonyms of each are counted from 0. */
 
@@ -48,7 +48,7 @@ enum { DIC_PART_IN_TEXT = 0 }; /* the text is a full entry, which has its part c
 class KZ_API CDicEntryMeaning : public ZCObject {
  public:
   // Splits `text` at every ';' into synonyms: in reduced form for kind 'C', in spaced form for kind
-  // 'c' (both at most 355 characters long), as they stand for any other kind. At most four
+  // 'c' (both at most 355 characters long), as they are for any other kind. At most four
   // characters of `language` are kept; null means none.
   CDicEntryMeaning(ZCString tag, ZCString mark, ZCString definition, ZCString text,
                    const char* language, char kind);

@@ -36,7 +36,7 @@ KZ_API char* DicEntryOemToAnsi(const char* source, char* destination, const char
  * in doubt: the special letters (kz/special.h) of German or French, when its third and further
  * characters name that language, or its first ones when there is no third. Such a letter follows
  * the letters of its word before it, Russian or Latin ones, whichever are more; when they are as
- * many, it follows the letter behind it; without one it is Russian, or Western if the third and
+ * many, it follows the letter after it; without one it is Russian, or Western if the third and
  * further characters are more than two. With any other language and null no letter is in doubt, and
  * all of the text is Russian. Returns a pointer to the final zero. */
 KZ_API char* strdicansitooem(const char* source, char* destination, const char* language);

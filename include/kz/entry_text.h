@@ -69,15 +69,15 @@ KZ_API int16_t IsDicEntryNewPart(const char* position, const char* language, int
 /* The start of the next part at or after `position`, or the terminating zero. `part` is the part
  * code of the entry: 'W' stops at code letters, blanks and # \ ~ / ; & ; 'w' at code letters,
  * blanks, '#' and '&'; any other at code letters, '#' and backslashes, with the part after a 'W'
- * starting behind the next '/'. Brace and bracket groups are passed over. Code letters are Latin
+ * starting after the next '/'. Brace and bracket groups are passed over. Code letters are Latin
  * ones for the target Russian; Latin capitals and, but for part 'W', Russian letters for English;
  * Latin capitals for others. For the target Russian and parts other than 'W' and 'w' a Latin letter
- * with a digit behind it is none: it is passed over with the digit and one more character.
+ * with a digit after it is none: it is passed over with the digit and one more character.
  * `language` as above. Null gives null. */
 KZ_API const char* GetNextPart(const char* position, const char* language, int part);
 
 /* Packs a displayed text into entry text: removes the blanks that display puts around markers and
- * code letters. Segments between '#' and blocks in brackets or braces are copied as they stand; one
+ * code letters. Segments between '#' and blocks in brackets or braces are copied as they are; one
  * that is not closed ends the packing. `destination` needs the length of the source plus one and
  * may be the source itself; it is returned. `language` as above, `part` is not used. A null source
  * counts as empty; a null destination gives null. */

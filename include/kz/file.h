@@ -74,7 +74,7 @@ class KZ_API ZCFile : public ZCObject {
   // The position from the start of the file; all bits set on failure.
   virtual std::uint32_t GetPosition();
 
-  // The name behind the last '\\', '/' or ':' of the full path, at most 256 characters.
+  // The name after the last '\\', '/' or ':' of the full path, at most 256 characters.
   virtual ZCString GetFileName();
   // A title to show to the user; on this system the same as GetFileName.
   virtual ZCString GetFileTitle();
@@ -102,7 +102,7 @@ class KZ_API ZCFile : public ZCObject {
   // The length in bytes; the position stays. All bits set on failure.
   virtual std::uint32_t GetLength();
 
-  // The number of bytes read into `buffer`: fewer than `count` at the end of the file, 0 behind it
+  // The number of bytes read into `buffer`: fewer than `count` at the end of the file, 0 after it
   // and on failure.
   virtual unsigned int Read(void* buffer, unsigned int count);
   // The number of bytes written; 0 on failure.
@@ -111,11 +111,11 @@ class KZ_API ZCFile : public ZCObject {
   virtual int WriteString(const char* text);
 
   // Reads one line of any length, without its line end ("\n" or "\r\n"), and leaves the position
-  // behind the line end. Returns the string's characters. Null at the end of the file (the string
+  // after the line end. Returns the string's characters. Null at the end of the file (the string
   // is empty then) and on a failing read (the string keeps what was read before it).
   virtual char* ReadString(ZCString& line);
   // Reads a line of at most `max` characters into `buffer`, which has room for max + 1. A longer
-  // line is cut there: the character at position `max` is lost and the next call continues behind
+  // line is cut there: the character at position `max` is lost and the next call continues after
   // it. Null at the end of the file and on a failing read (`buffer` is not terminated then).
   virtual char* ReadString(char* buffer, unsigned int max);
 
@@ -145,7 +145,7 @@ class KZ_API ZCFile : public ZCObject {
   void SeekToBegin();
 
   // Status of the open file. 1 on success. Without an open file only the name is filled, the rest
-  // is zero, and the result is 1. On failure 0, with the fields behind the name zero.
+  // is zero, and the result is 1. On failure 0, with the fields after the name zero.
   int GetStatus(ZCFileStatus& status) const;
   // Status of a named file or directory. 1 on success; 0 when there is none, with only the full
   // name changed.

@@ -39,20 +39,20 @@ KZ_API char* GramToStr(int16_t code, const GRAMINFO* gram, const SEMANTICS* sema
  *
  * `code_out` receives the code by which a letter was last read; it keeps its value when no letter
  * was, or when the code has no group. `latin_area`, two bytes, receives the tag "&" with a Latin
- * letter: the letter in the first byte, the digit behind it, if there is one, in the second.
+ * letter: the letter in the first byte, the digit after it, if there is one, in the second.
  *
- * Returns the position at the "|" or the final zero, or behind the ")", "]" or "\" that ended it;
+ * Returns the position at the "|" or the final zero, or after the ")", "]" or "\" that ended it;
  * null for a null text. What goes to another null pointer is dropped. */
 KZ_API const char* StrToGram(const char* text, char* code_out, GRAMINFO* gram, SEMANTICS* semantics,
                              int code, char* latin_area);
 
-/* Reads one item, as StrToGram does for each: a tag with the "-" in front of it, "&" or "#" with
+/* Reads one item, as StrToGram does for each: a tag with the "-" before it, "&" or "#" with
  * what belongs to it, or "%" with all semantic letters. Returns the position of the item's last
  * character, or of the final zero, ")", "]", "\" or "|" that it met; null for a null text. */
 KZ_API const char* StrToGram1(const char* text, char* code_out, GRAMINFO* gram,
                               SEMANTICS* semantics, int code, char* latin_area);
 
-/* Reads semantic letters, from behind the "%" up to a final zero, ")", "]" or "\". Adds their flags
+/* Reads semantic letters, from after the "%" up to a final zero, ")", "]" or "\". Adds their flags
  * and returns the position of the character that ended them; null for a null text. Characters that
  * are no semantic letter are skipped. */
 KZ_API const char* get_semantics(const char* text, SEMANTICS* semantics);

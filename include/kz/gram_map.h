@@ -22,7 +22,7 @@
 #include <cstring>
 #endif
 
-/* Where the fields of a word record begin. The record is packed and stands at any address; fields
+/* Where the fields of a word record begin. The record is packed and is at any address; fields
  * of several bytes are in the machine's byte order. Bytes not named here belong to the modules. */
 enum WordRecordOffset {
   WORD_RECORD_LEVEL = 15,                /* above 4: re_set_egram appends to the text buffer */
@@ -120,24 +120,24 @@ extern "C" {
  * Windows-1251 characters, cut to their low 8 bits. Texts are zero-terminated Windows-1251. */
 
 /* Read a grammar from `text`, its leading "[" skipped, and derive the summary for the given code.
- * The tags are added to the GRAMINFO and SEMANTICS of the record. The result is the position behind
- * the grammar, as StrToGram gives it, and behind a "\" that stands there; null for a null text.
+ * The tags are added to the GRAMINFO and SEMANTICS of the record. The result is the position after
+ * the grammar, as StrToGram gives it, and after a "\" that is there; null for a null text.
  *
  * er_get_wgram, by mode: 0 reads the Russian grammar, then er_set_rgram; 1 the foreign one, then
- * er_set_egram; 3 the foreign one and, behind a "|", the Russian one, then er_set_egram.
+ * er_set_egram; 3 the foreign one and, after a "|", the Russian one, then er_set_egram.
  *
- * re_get_wgram, by mode: 0 and 2 read the Russian grammar and, behind a "|", the foreign one, then
- * re_set_rgram; 1 the foreign one, then re_set_egram with the text behind the grammar.
+ * re_get_wgram, by mode: 0 and 2 read the Russian grammar and, after a "|", the foreign one, then
+ * re_set_rgram; 1 the foreign one, then re_set_egram with the text after the grammar.
  *
  * Other modes read nothing; the "[" and "\" are stepped over all the same. */
 KZ_API const char* er_get_wgram(int16_t mode, const char* text, uint8_t* record, int16_t code);
 KZ_API const char* re_get_wgram(int16_t mode, const char* text, uint8_t* record, int16_t code);
 
-/* Read what follows a word, by the record's current code, and return the position behind it; null
+/* Read what follows a word, by the record's current code, and return the position after it; null
  * for a null text.
  *
  * At a "[", they call er_get_wgram in mode 0, re_get_wgram in mode 1. Without one, code "S" gets
- * person 3; er_get_rgram_gt also reads the case letters behind a preposition ("P"), of which the
+ * person 3; er_get_rgram_gt also reads the case letters after a preposition ("P"), of which the
  * last one says the case, and makes "n" a plural of code "N". */
 KZ_API const char* er_get_rgram_gt(const char* text, uint8_t* record);
 KZ_API const char* re_get_egram_gt(const char* text, uint8_t* record);
@@ -151,8 +151,8 @@ KZ_API void re_set_rgram(uint8_t* record, int16_t code);
 
 /* The same for the foreign GRAMINFO; then, when the level is above 4 and there is a text buffer,
  * appends `text`, the rest of the translation, to it: first "1" if the text is not empty and does
- * not begin with a digit. Nothing bounds that: behind the text that it holds, the buffer needs room
- * for the length of `text` plus one character (the final zero stands there already). A null text is
+ * not begin with a digit. Nothing bounds that: after the text that it holds, the buffer needs room
+ * for the length of `text` plus one character (the final zero is there already). A null text is
  * empty. */
 KZ_API void re_set_egram(uint8_t* record, int16_t code, const char* text);
 
@@ -167,7 +167,7 @@ KZ_API void re_set_vgram(uint8_t* record, const void* gram);
  * 255. */
 KZ_API int xv_syn(int code);
 
-/* Looks for an equivalent in a translation: the position behind the first character of `key` where
+/* Looks for an equivalent in a translation: the position after the first character of `key` where
  * `text` contains it. Otherwise the position of the first character outside of {} and [] that
  * begins the key, or is a Latin or Russian capital; null if there is none, if a bracket is not
  * closed, and for a null argument or an empty text. */

@@ -29,7 +29,7 @@ class KZ_API CStrLex {
   // Changes the delimiter set (a copy is kept); null means the one above.
   void SetPic(const char* picture);
 
-  // The next token of the text, or, with a null text, the next one behind the latest token. Returns
+  // The next token of the text, or, with a null text, the next one after the latest token. Returns
   // its start in the text, which must live on while it is being split; null when there are no more
   // tokens. The token is copied to the output, zero-terminated, unless that is null: room for the
   // longest token and the zero; an empty text when there is no token.
@@ -40,7 +40,7 @@ class KZ_API CStrLex {
 
   // The start of the latest token, null when there was none.
   const char* LastBegin() const;
-  // The delimiter behind it, where Next goes on; null when the text ended there.
+  // The delimiter after it, where Next goes on; null when the text ended there.
   const char* LastEnd() const;
   // The length of the latest token that there was, cut to 16 bits.
   std::int16_t LastLen() const;
@@ -77,11 +77,11 @@ class KZ_API CStrLine {
 
   // The first line of a text.
   ZCString GetFirst(const ZCString& text);
-  // The next line, without the carriage return and line feed that end it; behind the last one an
+  // The next line, without the carriage return and line feed that end it; after the last one an
   // empty line, and EndOfBuffer is 1 from then on. A text that ends with a line end has no further
-  // line behind it.
+  // line after it.
   ZCString GetNext();
-  // Whether GetNext has found nothing left.
+  // True when GetNext has found nothing left.
   int EndOfBuffer() const;
 
  private:

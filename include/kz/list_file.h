@@ -63,7 +63,7 @@ class KZ_API CListFile {
   CListItem* GetCurrentItem();
   const char* GetWordFor();
   const char* GetWordTo();
-  // Makes the first item, or the one behind the current one, the current item and returns it; null
+  // Makes the first item, or the one after the current one, the current item and returns it; null
   // at the end of the list, where Next stays.
   CListItem* First();
   CListItem* Next();

@@ -2,7 +2,7 @@
  *
  * A queue is a header of the caller; initque makes it an empty queue. Its elements are chained
  * through their main link or, with the functions named ..._back, through their second one: one
- * element can thus stand in two queues at a time, each of which is handled through one link only.
+ * element can thus be in two queues at a time, each of which is handled through one link only.
  * Nothing is allocated or released but by newqueobj. No pointer may be null unless it is said.
  *
  *   KZQUE queue;
@@ -25,7 +25,7 @@ extern "C" {
 
 /* An element of a queue. */
 typedef struct KZQUEOBJ {
-  struct KZQUEOBJ* next;      /* main link: the element behind this one, or null */
+  struct KZQUEOBJ* next;      /* main link: the element after this one, or null */
   struct KZQUEOBJ* next_back; /* second link */
   int16_t id;                 /* key of id_in_que */
   int16_t did;                /* key of did_in_que */
@@ -55,7 +55,7 @@ KZ_API void enque1(KZQUE* queue, KZQUEOBJ* element);
 /* Appends the element through the second link; the sequence number stays. */
 KZ_API void enque_back(KZQUE* queue, KZQUEOBJ* element);
 
-/* Puts the element behind all those whose priority is not greater. Priority 255 appends, and
+/* Puts the element after all those whose priority is not greater. Priority 255 appends, and
  * becomes the priority of the last element plus one (8 bits), in an empty queue 1; the id becomes
  * the same number. */
 KZ_API void enque_prio(KZQUE* queue, KZQUEOBJ* element);

@@ -10,7 +10,7 @@
  *     puts(ChangeWord(&list, "the cat", output));  // prints "the dog"
  *
  * The text begins with "\r\n", lines end with "\r\n". A line is a word, or a word, "=" and its
- * replacement, which may be empty. The text holds fewer than 16,000 characters behind its leading
+ * replacement, which may be empty. The text holds fewer than 16,000 characters after its leading
  * white space. Positions point into the block of the buffer and are valid until the buffer changes.
  * A buffer serves one thread at a time. */
 #ifndef KZ_REPLACE_BUFFER_H
@@ -48,12 +48,12 @@ class KZ_API CFindBuffer : public ZCObject {
   std::int16_t Allocate(std::uint16_t size);
   // Releases the block; modified, corrected and size become 0. Returns 0.
   std::int16_t Free();
-  // Makes the text "\r\n", and the line behind it the current one. Returns the text; null when no
+  // Makes the text "\r\n", and the line after it the current one. Returns the text; null when no
   // block can be allocated.
   char* Clear();
   // The block, which holds the text; null when none can be allocated.
   char* GetBuffer();
-  // Copies a text into the buffer, behind the leading "\r\n" if it does not begin with one, and
+  // Copies a text into the buffer, after the leading "\r\n" if it does not begin with one, and
   // sets modified. 1 on success; 0 for null, for 16,000 characters or more and without a block.
   std::int16_t SetBuffer(const char* text);
 
@@ -78,12 +78,12 @@ class KZ_API CFindBuffer : public ZCObject {
   // when the word is listed without replacement; 0 for a null word, and when the text and all that
   // is added but the line end together reach 16,000 characters; -1 without a block.
   std::int16_t Add(const char* word, const char* replacement);
-  // Appends a text as it stands. 1 on success; 0 for null, an empty text, one of 512 characters or
+  // Appends a text as it is. 1 on success; 0 for null, an empty text, one of 512 characters or
   // more, and when both texts together reach 16,000 characters; -1 without a block.
   std::int16_t Concat(const char* text);
 
   // Copies the replacement of a word to the output (room for the text of the buffer) and counts
-  // corrected up. Returns the position behind the "="; null, with an empty output, when the word
+  // corrected up. Returns the position after the "="; null, with an empty output, when the word
   // has no line with a replacement.
   const char* Replace(const char* word, char* output);
 
@@ -91,17 +91,17 @@ class KZ_API CFindBuffer : public ZCObject {
   // with the output untouched, and the output, untouched, for a null position. A line feed at the
   // position is passed over.
   char* GetWordFor(const char* line, char* output);
-  // Copies what stands behind the first "=" at or behind a position, up to the end of its line, and
+  // Copies what follows the first "=" at or after a position, up to the end of its line, and
   // returns its position; null, with an empty output, for a null position and when there is no "=".
   // A null output is left out.
   const char* GetWordTo(const char* line, char* output);
 
-  // Iteration: the word of the first line; of the line behind the current one, which without a
+  // Iteration: the word of the first line; of the line after the current one, which without a
   // First is the first. Returns the output; null, with an empty output, when there is no line.
   char* First(char* output);
   char* Next(char* output);
 
-  // Whether the text was changed by SetBuffer since it was loaded or saved, for the caller to set
+  // True when the text was changed by SetBuffer since it was loaded or saved, for the caller to set
   // after other changes; the number of successful calls of Replace.
   std::int16_t GetModified() const;
   void SetModified(std::int16_t modified);
@@ -126,7 +126,7 @@ extern "C" {
 typedef struct CFindBuffer CFindBuffer;
 #endif
 
-/* Reads a file to the destination and puts two zero bytes behind it: room for 16,001 bytes. 0 on
+/* Reads a file to the destination and puts two zero bytes after it: room for 16,001 bytes. 0 on
  * success; 196 for a null argument, 195 when the file cannot be opened, 202 when it has 16,000
  * bytes or more, has a zero byte or cannot be read in full. */
 KZ_API int16_t LoadBuffer(const char* path, char* destination);
@@ -136,15 +136,15 @@ KZ_API int16_t LoadBuffer(const char* path, char* destination);
  * there was is then untouched, unless its device failed while it was written in place. */
 KZ_API int16_t SaveBuffer(const char* path, const char* text);
 
-/* The first line behind a line feed that is the word (mode 0), the word with a replacement (mode
+/* The first line after a line feed that is the word (mode 0), the word with a replacement (mode
  * 1), or begins with the word (other modes). Returns the start of the line; null when there is
  * none, for a null or empty word, one of 251 characters or more, and a null buffer. */
 KZ_API const char* FindWordInBuffer(const char* buffer, const char* word, int16_t mode);
 
 /* Copies the source to the destination and replaces the words of the buffer. At every position the
  * lines are tried in their order; a word matches when the source goes on with it, also inside of a
- * longer word. A word with a replacement is replaced, and the lines are tried anew behind it; a
- * word without one is dropped, and the lines that remain are tried behind it; when none of them has
+ * longer word. A word with a replacement is replaced, and the lines are tried anew after it; a
+ * word without one is dropped, and the lines that remain are tried after it; when none of them has
  * matched and been replaced, one character is copied. Lines with an empty word are passed over.
  *
  * Returns the destination, null for a null destination. The texts do not overlap, and a destination

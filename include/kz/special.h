@@ -22,7 +22,7 @@
 extern "C" {
 #endif
 
-/* Whether `language` is `code`: the texts are equal ignoring case, or both begin, ignoring case,
+/* True when `language` is `code`: the texts are equal ignoring case, or both begin, ignoring case,
  * with the same one of EN, DE, FR, RU. Returns the first character of `language` (1 to 255) if so,
  * 0 if not and when either is null or empty. DERU is German and RUDE is Russian. */
 KZ_API int16_t kz_codr_is_language(const char* language, const char* code);
@@ -31,7 +31,7 @@ KZ_API int16_t kz_codr_is_language(const char* language, const char* code);
  * are yo in Russian, the umlauts and sharp s in German, the accented letters in French. */
 KZ_API int kz_codr_is_spec_char(int character, const char* language);
 
-/* The small letter without accent that stands behind a special letter of the language, and for the
+/* The small letter without accent on which a special letter of the language is based, and for the
  * plain letters with the same base the small letter too (German A gives a, B stays B); any other
  * character, and every character in another language or with null, unchanged. */
 KZ_API int kz_codr_base_member(int character, const char* language);
@@ -61,7 +61,7 @@ KZ_API int IsWordRuLanguage(const char* word, const char* language);
 KZ_API int16_t x_case(unsigned mask);
 
 /* Writes for each case of the mask, nominative (0x01) to prepositional (0x20), the initial of its
- * Russian name as a Windows-1251 capital. Returns a pointer behind the last letter; writes no final
+ * Russian name as a Windows-1251 capital. Returns a pointer after the last letter; writes no final
  * zero. `out` holds up to six bytes. */
 KZ_API char* c_case(int mask, char* out);
 

@@ -29,7 +29,7 @@
 
 #include "kz/export.h"
 
-// The header that stands immediately in front of the first character of every buffer.
+// The header that is immediately before the first character of every buffer.
 struct ZCStringData {
   std::int32_t references;  // strings that share the buffer; -1: locked, or no string's own
   std::int32_t language;    // Windows language identifier of the text, 0 for none
@@ -74,7 +74,7 @@ class KZ_API ZCString {
 
   // --- Access ---
 
-  // Characters, without the NUL behind them.
+  // Characters, without the NUL after them.
   int GetLength() const noexcept;
   // Characters that the buffer can hold; 0 without a buffer.
   int GetAllocLength() const noexcept;
@@ -82,7 +82,7 @@ class KZ_API ZCString {
   int IsEmpty() const noexcept;
   // The zero-terminated characters: valid until this string changes or dies.
   operator const char*() const noexcept;
-  // The character at `index`, which the caller keeps in 0..length (the NUL stands at length).
+  // The character at `index`, which the caller keeps in 0..length (the NUL is at length).
   char GetAt(int index) const noexcept;
   char operator[](int index) const noexcept;
   // Makes the buffer unique and stores `ch` at `index`, which the caller keeps in 0..length - 1.
@@ -107,7 +107,7 @@ class KZ_API ZCString {
   // Ends the writing: makes the buffer unique and sets the length to `count` (cut to what the
   // buffer holds), or, for -1, to the characters before the first NUL; stores a NUL there.
   void ReleaseBuffer(int count = -1) noexcept;
-  // GetBuffer(count), then the length `count` with a NUL behind it.
+  // GetBuffer(count), then the length `count` with a NUL after it.
   char* GetBufferSetLength(int count) noexcept;
   // Moves the text into a new, unlocked buffer of exactly its length, when the present one is
   // larger.
@@ -140,7 +140,7 @@ class KZ_API ZCString {
   // The leading run of characters that occur, or do not occur, in `set`, with this string's tag.
   ZCString SpanIncluding(const char* set) const noexcept;
   ZCString SpanExcluding(const char* set) const noexcept;
-  // The text between the delimiter at `position` and the last equal character behind it that does
+  // The text between the delimiter at `position` and the last equal character after it that does
   // not directly follow `escape`; moves `position` to that closing delimiter. Without one: the
   // whole string, and `position` stays. For a position outside the string: an empty string.
   ZCString GetInside(int& position, char escape) const noexcept;
@@ -190,14 +190,14 @@ class KZ_API ZCString {
 
   // Compares the zero-terminated texts by unsigned bytes: negative, 0 or positive.
   int Compare(const char* text) const noexcept;
-  // Whether the string begins or ends with `text`, byte by byte.
+  // True when the string begins or ends with `text`, byte by byte.
   int StartsWith(const char* text) const noexcept;
   int EndsWith(const char* text) const noexcept;
-  // Whether the string ends with the ending `text`; whether `text` ends just before `position`
+  // True when the string ends with the ending `text`; whether `text` ends just before `position`
   // (0 for a position outside 0..length).
   int IsFlex(const char* text) const noexcept;
   int IsFlex(int position, const char* text) const noexcept;
-  // Whether the character at `index` is white space (codes 9 to 13 and 32), or a digit, in any
+  // True when the character at `index` is white space (codes 9 to 13 and 32), or a digit, in any
   // language. The caller keeps the index in 0..length.
   int IsSpace(int index) const noexcept;
   int IsDigit(int index) const noexcept;
@@ -206,7 +206,7 @@ class KZ_API ZCString {
   //
   // The tags 1031 (German) and 1036 (French) select Windows-1252 and CP850; 1033 (English) and 1049
   // (Russian) select Windows-1251 and CP866, where the class tests accept what either code page
-  // knows. What any other tag selects stands at each operation. The tag that counts is the one
+  // knows. What any other tag selects is at each operation. The tag that counts is the one
   // before the operation makes the buffer unique, which leaves the tag 0.
 
   // Make the buffer unique and change the case; without a language of Latin letters only.
@@ -235,7 +235,7 @@ class KZ_API ZCString {
   int IsLower(int index) const noexcept;
 
  private:
-  char* text_;  // the first character; a ZCStringData stands in front of it
+  char* text_;  // the first character; a ZCStringData is before it
 };
 
 // Concatenation: a new string of exactly the joined length, with tag 0.

@@ -31,7 +31,7 @@ extern "C" {
  * source's length is added; the texts do not overlap. Returns the end. */
 KZ_API char* strcatrn(char* destination, const char* source);
 /* Copies with the line ends of strcatrn, from the start of destination (nothing is kept of what
- * stands there). Room: twice the source's length + 1; the texts do not overlap. Returns the end. */
+ * is there). Room: twice the source's length + 1; the texts do not overlap. Returns the end. */
 KZ_API char* strcat_crn(char* destination, const char* source);
 
 /* Copies; each pair of carriage return and line feed becomes a line feed. Returns the end. */
@@ -52,13 +52,13 @@ KZ_API char* strcpydelm(char* destination, const char* source, const char* set);
  * that is less. Returns destination, the start. */
 KZ_API char* strncpy0(char* destination, const char* source, unsigned int count);
 
-/* Puts prefix in front of text, in place; the text's buffer has room for both. A result of more
+/* Puts prefix before text, in place; the text's buffer has room for both. A result of more
  * than 515 characters is not made: text is left as it is. Returns text. */
 KZ_API char* insfst(char* text, const char* prefix);
 /* Removes leading white space, in place. Returns text. */
 KZ_API char* trimleft(char* text);
 /* Overwrites every white-space character among the first length characters (-1: all) with a zero
- * byte, which cuts the text at the first of them. Nothing behind the end of the text is touched.
+ * byte, which cuts the text at the first of them. Nothing after the end of the text is touched.
  * Returns text. */
 KZ_API char* trimright(char* text, int16_t length);
 
@@ -74,8 +74,8 @@ KZ_API int16_t isiflex(const char* word, int16_t length, const char* ending);
 
 /* 1 if the path contains '*' or '?', else 0 (also for null). */
 KZ_API int HasWildCards(const char* path);
-/* The file name within path: behind the last '\', in a path without one behind the last '/', else
- * behind the last ':', else the path itself. Null for null. */
+/* The file name within path: after the last '\', in a path without one after the last '/', else
+ * after the last ':', else the path itself. Null for null. */
 KZ_API const char* GetFileName(const char* path);
 /* The extension within path: from the last '.' of the file name on, else the terminating zero. Null
  * for null. */
@@ -84,8 +84,8 @@ KZ_API const char* GetExt(const char* path);
  * Returns path. */
 KZ_API char* set_pathsep(char* path);
 /* Copies source to destination with another extension. An extension that begins with '.' replaces
- * the text from the last '.' on, wherever that stands; in a text without '.' it is appended. One
- * that does not begin with '.' is appended behind a '.'. Room: both lengths + 2; destination may be
+ * the text from the last '.' on, wherever that is; in a text without '.' it is appended. One
+ * that does not begin with '.' is appended after a '.'. Room: both lengths + 2; destination may be
  * source. Returns destination. */
 KZ_API char* SetExt(char* destination, const char* source, const char* extension);
 /* Shortens a path that is longer than maximum, in place: the first part of its directory that is
@@ -98,7 +98,7 @@ KZ_API char* get_short_path(char* path, int16_t maximum);
 
 /* Value of the first two characters when both are hexadecimal digits, else 0. */
 KZ_API uint8_t hex_to_byte(const char* text);
-/* The number at the start of text (its first 12 characters count): hexadecimal behind '$', else
+/* The number at the start of text (its first 12 characters count): hexadecimal after '$', else
  * decimal. Each character up to the first white space that is no such digit is reported with MsgBox
  * but does not stop the conversion: the result is what can be read from the start (blanks, sign,
  * "0x" of a hexadecimal number, digits), cut to 16 bits; 0 when there is no digit. */
@@ -115,7 +115,7 @@ KZ_API int MsgBox(const char* text, unsigned int style, unsigned int language);
 KZ_API void beep(void);
 /* Makes the title line of a generated file: 72 characters and a zero byte. From the left the names
  * and extensions of the two paths in capitals (A to Z), one blank between them; second_path may be
- * null. What stands before the last '\', '/' or ':' of a path is left out; a name has at most 8
+ * null. What is before the last '\', '/' or ':' of a path is left out; a name has at most 8
  * characters counting that separator, which is written if it is a ':'. At the right the local time
  * as "Jan 02 12:34:56 2005" and a line feed; names that reach so far are overwritten by it. output
  * has room for 73 bytes. Returns the position of the terminating zero. */

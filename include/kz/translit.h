@@ -41,7 +41,7 @@ KZ_API char* translitenru(int character, char* out);
 
 /* Texts. Source and destination do not overlap, and are not null unless it is said. */
 
-/* Writes the `translit` of each character of `source` one behind the other. `destination` holds
+/* Writes the `translit` of each character of `source` one after the other. `destination` holds
  * three times the source's length plus one byte. Returns a pointer to the final zero. */
 KZ_API char* strtransliterate(const char* source, char* destination, const char* language,
                               int16_t flags);
