@@ -1,10 +1,9 @@
-// Arrays of descriptors.
+// The arrays of a set: loading the dictionaries that their descriptors name.
 #include "dicset/array.h"
 
-#include <memory>
-#include <new>
 #include <span>
 
+#include "dicset/descriptor.h"
 #include "dicset/direction.h"
 #include "dicset/set.h"
 #include "dictionary/lookup.h"
@@ -16,12 +15,6 @@ namespace {
 
 std::string_view directory_of(const CDicSys& set) {
   return set.directory != nullptr ? set.directory : "";
-}
-
-ZCString join(std::string_view prefix, std::string_view name) {
-  ZCString path(prefix.data(), static_cast<int>(prefix.size()));
-  path += ZCString(name.data(), static_cast<int>(name.size()));
-  return path;
 }
 
 bool is_full_path(std::string_view path) {
@@ -37,41 +30,14 @@ bool load_dictionary(CDicSys& set, const CDicArray& descriptor) {
   const std::string_view path(descriptor.path);
   const std::string_view directory = directory_of(set);
   const std::string_view name = GetFileName(descriptor.path);
-  const ZCString full = join(is_full_path(path) ? "" : directory, path);
+  const ZCString full = joined_path(is_full_path(path) ? "" : directory, path);
   if (static_cast<std::size_t>(full.GetLength()) > kPathMax) return false;
   if (load(full)) return true;
   if (directory.size() + name.size() > kPathMax) return false;
-  return load(join(directory, name)) || load(join("", name));
+  return load(joined_path(directory, name)) || load(joined_path("", name));
 }
 
 }  // namespace
-
-bool put_descriptor(ZCObArray& array, std::int16_t position, std::string_view prefix,
-                    std::string_view name, std::int16_t mode) {
-  if (prefix.size() + name.size() > kPathMax) return false;
-  std::unique_ptr<CDicArray> made(new (std::nothrow) CDicArray(join(prefix, name), mode, 1));
-  if (!made) return false;
-  if (position < 0) {
-    if (array.Add(made.get()) < 0) return false;
-  } else {
-    if (position < array.GetSize()) delete array[position];
-    array.SetAtGrow(position, made.get());
-    if (position >= array.GetSize()) return false;
-  }
-  static_cast<void>(made.release());
-  return true;
-}
-
-void remove_descriptors(ZCObArray& array) {
-  for (int i = 0; i < array.GetSize(); ++i) delete array[i];
-  array.RemoveAll();
-}
-
-void remove_all_descriptors(CDicSys& set) {
-  for (ZCObArray& array : set.directions) remove_descriptors(array);
-  for (ZCObArray& array : set.spell_chain) remove_descriptors(array);
-  for (ZCObArray& array : set.thesaurus_chain) remove_descriptors(array);
-}
 
 bool load_array(CDicSys& set, const ZCObArray& array) {
   bool complete = true;
@@ -101,13 +67,6 @@ void append_from_list(CDicSys& set, std::int16_t list, ZCObArray& array) {
 }
 
 }  // namespace kz
-
-CDicArray::CDicArray() = default;
-
-CDicArray::CDicArray(const char* file, int16_t open_mode, int16_t is_loaded)
-    : loaded(static_cast<uint8_t>(is_loaded)), path(file), mode(static_cast<uint8_t>(open_mode)) {}
-
-CDicArray::~CDicArray() = default;
 
 ZCObArray* DicArraySelect(CDicSys* set, const char* language) {
   if (set == nullptr) return nullptr;

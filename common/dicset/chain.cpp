@@ -1,5 +1,6 @@
 // The spelling and the thesaurus chain: queue lists 5 and 4, and the arrays that save them.
 #include "dicset/array.h"
+#include "dicset/descriptor.h"
 #include "dicset/set.h"
 #include "kz/dictionary.h"
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "dicset/array.h"
+#include "dicset/descriptor.h"
 #include "dicset/set.h"
 #include "kz/language.h"
 #include "util/lexer.h"

@@ -7,6 +7,7 @@
 #include <memory>
 #include <new>
 
+#include "dicset/descriptor.h"
 #include "dicset/direction.h"
 #include "dictionary/error.h"
 #include "dictionary/lookup.h"
@@ -26,6 +27,12 @@ bool allocate_buffers(CDicSys& set) {
   set.g_buffer = zeroed_buffer(DIC_SET_BUFFER_SIZE);
   set.e_buffer = zeroed_buffer(DIC_SET_BUFFER_SIZE);
   return set.chunk_buffer != nullptr && set.g_buffer != nullptr && set.e_buffer != nullptr;
+}
+
+// The dictionary of the queue that was loaded from this path, written as the queue has it.
+CDic* loaded_from(CDicSys& set, const char* path) {
+  if (path == nullptr) return nullptr;
+  return queue_of(set).loaded_from(path, [](int character) { return character; });
 }
 
 }  // namespace
@@ -48,6 +55,12 @@ void set_language(CDicSys& set, const char* code) {
   if (code != nullptr) std::copy_n(code, strnlen(code, kDirectionLength), language);
   std::copy(std::begin(language), std::end(language), set.language);
   select_array(set);
+}
+
+void remove_all_descriptors(CDicSys& set) {
+  for (ZCObArray& array : set.directions) remove_descriptors(array);
+  for (ZCObArray& array : set.spell_chain) remove_descriptors(array);
+  for (ZCObArray& array : set.thesaurus_chain) remove_descriptors(array);
 }
 
 }  // namespace kz
@@ -89,7 +102,7 @@ void DicSetOperationCode(CDicSys* set, uint16_t code) {
 
 char* DicSysGetDicPassword(CDicSys* set, const char* path, char* buffer) {
   if (set == nullptr || buffer == nullptr) return nullptr;
-  if (const CDic* const loaded = ChkOemDicInList(set, path)) {
+  if (const CDic* const loaded = kz::loaded_from(*set, path)) {
     return DicPwGet(kz::Lookup::password(*loaded), buffer);
   }
   DicHeader header;
@@ -102,7 +115,7 @@ int16_t DicSysHeaderSetProperties(CDicSys* set, const char* path, const char* ti
   if (set == nullptr) return -1;
   const auto code = [&] {
     if (path == nullptr) return kz::set_error(DIC_ERR_ARGUMENT);
-    if (ChkOemDicInList(set, path) != nullptr) return kz::set_error(DIC_ERR_IN_USE);
+    if (kz::loaded_from(*set, path) != nullptr) return kz::set_error(DIC_ERR_IN_USE);
     return DicHeaderSetProperties(path, title, label, property, password);
   };
   return static_cast<int16_t>(code());

@@ -20,9 +20,7 @@ ZCObArray* select_array(CDicSys& set);
 // Stores at most 4 characters of the code (null: none), and selects the array of the direction.
 void set_language(CDicSys& set, const char* code);
 
-// Destroys the descriptors of an array and empties it.
-void remove_descriptors(ZCObArray& array);
-// The same for all arrays of the set.
+// Destroys the descriptors of all arrays of the set.
 void remove_all_descriptors(CDicSys& set);
 
 }  // namespace kz
