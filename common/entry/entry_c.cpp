@@ -1,4 +1,4 @@
-// Handle functions over CDicEntry.
+// The functions over the handle of an entry.
 #include <cstring>
 #include <new>
 
@@ -95,3 +95,22 @@ std::int16_t DicEntryGetSynonymValues(CDicEntry* handle, char* synonym, char* la
 char* DicEntryPack(CDicEntry* handle, char* buffer) {
   return handle == nullptr ? nullptr : handle->PackEntry(buffer);
 }
+
+const char* CDicEntry::Code(const char* text, char* buffer) {
+  Build(text, 0, nullptr, nullptr);
+  CodeFullEntry();
+  Merge();
+  return GetFullEntry(buffer);
+}
+
+const char* CDicEntry::Decode(const char* text, char* buffer) {
+  Decoding = 1;
+  Build(text, 0, nullptr, nullptr);
+  DecodeFullEntry();
+  Merge();
+  Decoding = 0;
+  return GetFullEntry(buffer);
+}
+
+void CDicEntry::CodeFullEntry() {}
+void CDicEntry::DecodeFullEntry() {}

@@ -1,12 +1,32 @@
-// Copies that drop or change characters on the way.
+// Memory, copies of texts, word endings, numbers in text.
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string_view>
 
 #include "kz/charclass.h"
 #include "kz/strutil.h"
+
+void* kz_misc_malloc(size_t size) { return std::malloc(size); }
+
+void* kz_misc_calloc(size_t count, size_t size) { return std::calloc(count, size); }
+
+void kz_misc_free(void* block) { std::free(block); }
+
+char* kz_misc_strdup(const char* text) {
+  if (text == nullptr) return nullptr;
+  const size_t room = std::strlen(text) + 1;
+  auto* copy = static_cast<char*>(std::malloc(room));
+  return copy == nullptr ? nullptr : static_cast<char*>(std::memcpy(copy, text, room));
+}
+
+int kz_misc_errno(void) { return errno; }
 
 namespace {
 
@@ -119,3 +139,74 @@ char* trimright(char* text, int16_t length) {
       text, text + end, [](char c) { return _isspace(c) != 0; }, '\0');
   return text;
 }
+
+namespace {
+
+template <class Equal>
+int16_t ending_length(const char* word, int16_t length, const char* ending, Equal equal) {
+  if (word == nullptr || ending == nullptr || length <= 0) return 0;
+  const std::string_view tail = ending;
+  const auto word_length = static_cast<std::size_t>(length);
+  if (tail.size() > word_length) return 0;
+  const char* const start = word + (word_length - tail.size());
+  return std::equal(tail.begin(), tail.end(), start, equal) ? static_cast<int16_t>(tail.size())
+                                                            : int16_t{0};
+}
+
+}  // namespace
+
+int16_t isflex(const char* word, int16_t length, const char* ending) {
+  return ending_length(word, length, ending, [](char a, char b) { return a == b; });
+}
+
+int16_t isiflex(const char* word, int16_t length, const char* ending) {
+  return ending_length(word, length, ending,
+                       [](char a, char b) { return __tolower(a) == __tolower(b); });
+}
+
+namespace {
+
+void report_wrong_digits(const char* digits, bool hexadecimal) {
+  for (; *digits != '\0' && _isspace(*digits) == 0; ++digits) {
+    if ((hexadecimal ? _isxdigit(*digits) : _isdigit(*digits)) != 0) continue;
+    std::array<char, 40> message;
+    std::snprintf(message.data(), message.size(), "Error: Invalid %s digit %c.",
+                  hexadecimal ? "hexadecimal" : "decimal", *digits);
+    MsgBox(message.data(), 0, 1);
+  }
+}
+
+// Reads as scanf does: white space, a sign, the "0x" of a hexadecimal number, digits.
+std::int64_t read_number(const char* at, const char* end, bool hexadecimal) {
+  while (_isspace(*at) != 0) ++at;
+  const bool negative = *at == '-';
+  if (negative || *at == '+') ++at;
+  if (hexadecimal && at[0] == '0' && __tolower(at[1]) == 'x') at += 2;
+  std::uint64_t value = 0;
+  std::from_chars(at, end, value, hexadecimal ? 16 : 10);
+  const auto number = static_cast<std::int64_t>(value);
+  return negative ? -number : number;
+}
+
+// No more than 12 characters count, so that the value always fits.
+std::int64_t convert(const char* text) {
+  std::array<char, 13> copy;
+  strncpy0(copy.data(), text, copy.size() - 1);
+  const bool hexadecimal = copy[0] == '$';
+  const char* const digits = copy.data() + (hexadecimal ? 1 : 0);
+  report_wrong_digits(digits, hexadecimal);
+  return read_number(digits, digits + std::string_view(digits).size(), hexadecimal);
+}
+
+}  // namespace
+
+uint8_t hex_to_byte(const char* text) {
+  if (text == nullptr || _isxdigit(text[0]) == 0 || _isxdigit(text[1]) == 0) return 0;
+  std::uint8_t value = 0;
+  std::from_chars(text, text + 2, value, 16);
+  return value;
+}
+
+int16_t convert_number(const char* text) { return static_cast<int16_t>(convert(text)); }
+
+int32_t convert_lnumber(const char* text) { return static_cast<int32_t>(convert(text)); }
