@@ -71,18 +71,18 @@ struct CodeLetterTest {
 };
 
 // First and third letter of a language or direction code ("ENRU"), zero where it is too short.
-struct Direction {
+struct LanguagePair {
   char first = 0;
   char third = 0;
 
-  constexpr explicit Direction(std::string_view language)
+  constexpr explicit LanguagePair(std::string_view language)
       : first(char_at(language, 0)), third(char_at(language, 2)) {}
 };
 
 // The letter of the target language: the third of a direction, the first of a language code.
 constexpr char target_letter(std::string_view language) {
-  const Direction direction(language);
-  return direction.third != 0 ? direction.third : direction.first;
+  const LanguagePair pair(language);
+  return pair.third != 0 ? pair.third : pair.first;
 }
 
 // Opens a new part of a synonym.
@@ -104,19 +104,19 @@ constexpr CodeLetterTest part_end_test(char target, bool phrase) {
 }
 
 // Opens a group of synonyms inside the body of an entry.
-constexpr CodeLetterTest synonym_part_test(Direction direction) {
-  if (direction.first == 'R' && direction.third != 0) {
-    if (direction.third == 'E') return {kLatinCapital | kRussianCapital, kRussianCapital, kDigit};
+constexpr CodeLetterTest synonym_part_test(LanguagePair pair) {
+  if (pair.first == 'R' && pair.third != 0) {
+    if (pair.third == 'E') return {kLatinCapital | kRussianCapital, kRussianCapital, kDigit};
     return {kLatinCapital};
   }
-  if (direction.third == 'R') return {kLatin, kLatin, kClosingParenthesis};
+  if (pair.third == 'R') return {kLatin, kLatin, kClosingParenthesis};
   return {};
 }
 
 // Stands among the words of a synonym.
-constexpr CodeLetterTest target_code_test(Direction direction) {
-  if (direction.first == 'R' && direction.third != 0) return {kLatinCapital};
-  if (direction.third == 'R') return {kLatin};
+constexpr CodeLetterTest target_code_test(LanguagePair pair) {
+  if (pair.first == 'R' && pair.third != 0) return {kLatinCapital};
+  if (pair.third == 'R') return {kLatin};
   return {};
 }
 
@@ -126,24 +126,6 @@ constexpr char synonym_part_code(std::string_view part_text) {
   const char code = char_at(part_text, 0);
   return code != 0 && std::string_view("EGUVXYZeghvz").find(code) != std::string_view::npos ? 'V'
                                                                                             : code;
-}
-
-// Closing character of the group that c opens, zero when it opens none.
-constexpr char closing_of(char c) {
-  switch (c) {
-    case '{': return '}';
-    case '[': return ']';
-    case '(': return ')';
-    default: return 0;
-  }
-}
-
-// The contents of the group that opens at position i, up to its first closing character or the end;
-// `after` is set after that character. Groups do not nest.
-constexpr std::string_view group_at(std::string_view text, std::size_t i, std::size_t& after) {
-  const std::size_t end = text.find(closing_of(text[i]), i + 1);
-  after = end == std::string_view::npos ? text.size() : end + 1;
-  return text.substr(i + 1, end == std::string_view::npos ? end : end - i - 1);
 }
 
 }  // namespace kz::entry

@@ -49,7 +49,7 @@ struct EntryConverter {
   }
 
   void convert_body(std::size_t begin, std::size_t end) const {
-    if (entry::Direction(language).third == 'D') {
+    if (entry::LanguagePair(language).third == 'D') {
       convert_mixed(pages, text().substr(begin, end - begin), language, entry.data() + begin);
     } else {
       convert(begin, end, table_of(entry::target_letter(language)));

@@ -48,7 +48,7 @@ const CDicEntryMeaning* meaning_at(const ZCObArray& meanings, int i) {
 // True when a cross-reference leads to a word of the source language.
 bool leads_to_source(std::string_view reference, const char* language) {
   if (reference.size() < 2) return false;
-  const bool into_russian = kz::entry::Direction(language).third == 'R';
+  const bool into_russian = kz::entry::LanguagePair(language).third == 'R';
   return kz::entry::in_set(reference[1], kz::entry::kLatin) == into_russian;
 }
 

@@ -11,7 +11,7 @@ using kz::entry::view;
 namespace {
 
 kz::entry::CodeLetterTest code_test(const char* language) {
-  return kz::entry::target_code_test(kz::entry::Direction(language));
+  return kz::entry::target_code_test(kz::entry::LanguagePair(language));
 }
 
 using Form = std::string_view (*)(std::string_view, const kz::entry::CodeLetterTest&,

@@ -1,6 +1,8 @@
 // Cutting the body of an entry into meanings.
 #include "entry/meaning_parse.h"
 
+#include "entry/group.h"
+
 namespace kz {
 
 using entry::char_at;
@@ -28,7 +30,7 @@ bool is_number_at(std::string_view text, std::size_t i) {
 CodeLetterTest synonym_part_test(const MeaningContext& context) {
   if (context.kind != 'C' && context.kind != 'c') return {};
   if (context.part == 'W' || context.part == 'w') return {};
-  return entry::synonym_part_test(entry::Direction(context.language));
+  return entry::synonym_part_test(entry::LanguagePair(context.language));
 }
 
 MeaningParser::MeaningParser(std::string_view body, const MeaningContext& context)
@@ -71,7 +73,12 @@ bool MeaningParser::next(MeaningParts& meaning) {
   return false;
 }
 
-std::string_view MeaningParser::take_group() { return entry::group_at(body_, pos_, pos_); }
+std::string_view MeaningParser::take_group() {
+  const std::string_view contents = body_.substr(pos_ + 1);
+  const char closing = entry::closing_of(body_[pos_]);
+  pos_ = entry::group_end(body_, pos_);
+  return contents.substr(0, contents.find(closing));
+}
 
 std::string_view MeaningParser::take_number_label() {
   const std::size_t begin = pos_;
@@ -101,7 +108,7 @@ std::string_view MeaningParser::take_text(bool phrases) {
     if (phrases && c == 'W') {
       i = end_of_phrase_run(i);
     } else if (entry::closing_of(c) != 0) {
-      entry::group_at(body_, i, i);
+      i = entry::group_end(body_, i);
     } else if (code_.holds_at(body_, i) || is_number_at(body_, i)) {
       break;
     } else {

@@ -5,6 +5,7 @@
 
 #include "entry/blank_writer.h"
 #include "entry/code_letter.h"
+#include "entry/group.h"
 
 namespace kz {
 
@@ -14,13 +15,10 @@ namespace {
 
 constexpr std::string_view kTightMarkers = ";()|/\\W";
 
+// Parentheses are markers of their own.
 char segment_end(char c) {
-  switch (c) {
-    case '#': return '#';
-    case '[': return ']';
-    case '{': return '}';
-    default: return 0;
-  }
+  if (c == '#') return c;
+  return c == '(' ? char{0} : entry::closing_of(c);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "entry/code_letter.h"
+#include "entry/group.h"
 
 namespace kz {
 
@@ -18,16 +19,6 @@ constexpr std::size_t kNotFound = std::string_view::npos;
 constexpr std::size_t kLabelReach = 9;
 constexpr std::size_t kAttrReach = 7;
 constexpr std::size_t kExtendedCodeSize = 7;
-
-// Position after the bracket that matches the one at i.
-std::size_t behind_block(std::string_view text, std::size_t i) {
-  std::size_t depth = 0;
-  for (; i < text.size(); ++i) {
-    if (text[i] == '[') ++depth;
-    if (text[i] == ']' && --depth == 0) return i + 1;
-  }
-  return text.size();
-}
 
 }  // namespace
 
@@ -46,7 +37,7 @@ LabelledText find_labelled_text(std::string_view text) {
   i = labels_size(text);
   if (char_at(text, i) == ' ') ++i;
   if (char_at(text, i) == '[') {
-    i = behind_block(text, i);
+    i = entry::nested_end(text, i);
     if (char_at(text, i) == ' ') ++i;
   }
   found.cut = found.cut_end = text.size();
@@ -83,14 +74,7 @@ std::size_t extended_code_size(std::string_view text) {
 
 namespace {
 
-// After the brace or bracket group at p, null when none opens there.
-const char* behind_group(const char* p) {
-  if (*p != '{' && *p != '[') return nullptr;
-  const char* const end = std::strchr(p + 1, entry::closing_of(*p));
-  return end == nullptr ? p + std::strlen(p) : end + 1;
-}
-
-const char* behind_next_slash(const char* p) {
+const char* after_next_slash(const char* p) {
   const char* const slash = std::strchr(p, '/');
   return slash == nullptr ? p + std::strlen(p) : slash + 1;
 }
@@ -109,15 +93,16 @@ const char* find_next_part(const char* p, char target_letter, char part) {
   const bool phrase = part == 'W' || part == 'w';
   const CodeLetterTest code = entry::part_end_test(target_letter, part == 'W');
   const char* const stops = phrase_stops(part);
+  const char* const end = p + std::strlen(p);
   while (*p != 0 && std::strchr(stops, *p) == nullptr) {
-    if (const char* const group = behind_group(p)) {
-      p = group;
+    if (*p == '{' || *p == '[') {
+      p += entry::group_end({p, end}, 0);
     } else if (!phrase && target_letter == 'R' && in_set(*p, entry::kLatin) &&
                in_set(p[1], entry::kDigit)) {
       // A letter, its digit and the character after them are one sign of text.
       p += p[2] == 0 ? 2 : 3;
     } else if (!phrase && *p == 'W') {
-      return behind_next_slash(p);
+      return after_next_slash(p);
     } else if (code.holds(*p, p[1])) {
       return p;
     } else {

@@ -2,6 +2,7 @@
 #include "entry/synonym.h"
 
 #include "entry/blank_writer.h"
+#include "entry/group.h"
 
 namespace kz {
 
@@ -12,12 +13,6 @@ using entry::CodeLetterTest;
 namespace {
 
 constexpr std::size_t kNotFound = std::string_view::npos;
-
-// Position after the next `closing` at or after i, the end when there is none.
-std::size_t behind(std::string_view text, char closing, std::size_t i) {
-  const std::size_t found = text.find(closing, i);
-  return found == kNotFound ? text.size() : found + 1;
-}
 
 std::string_view finish(std::string_view text, std::string_view leading) {
   if (text.ends_with('/')) text.remove_suffix(1);
@@ -36,14 +31,15 @@ std::string_view reduce_synonym(std::string_view synonym, const CodeLetterTest& 
   while (i < synonym.size() && !out.is_full()) {
     const char c = synonym[i];
     if (c == '#') {
-      const std::size_t closing = synonym.find('#', i + 1);
+      const std::string_view contents = entry::literal_contents(synonym, i);
       out.put(' ');
-      out.put(synonym.substr(i + 1, closing == kNotFound ? closing : closing - i - 1));
-      if (closing == kNotFound) break;
+      out.put(contents);
+      i += 1 + contents.size();
+      if (i == synonym.size()) break;
       out.put_blank();
-      i = closing + 1;
+      ++i;
     } else if (c == '{') {
-      const std::size_t end = behind(synonym, '}', i);
+      const std::size_t end = entry::group_end(synonym, i);
       out.put(synonym.substr(i, end - i));
       i = end;
     } else if (code.holds_at(synonym, i)) {
@@ -76,9 +72,9 @@ std::string_view space_synonym(std::string_view synonym, const CodeLetterTest& c
         break;
       case '(': copy_to(i + 1, true, false); break;
       case ')': copy_to(i + 1, false, true); break;
-      case '#': copy_to(behind(synonym, '#', i + 1), true, true); break;
-      case '{': copy_to(behind(synonym, '}', i + 1), true, true); break;
-      case '[': copy_to(behind(synonym, ']', i + 1), true, true); break;
+      case '#': copy_to(entry::literal_end(synonym, i), true, true); break;
+      case '{':
+      case '[': copy_to(entry::group_end(synonym, i), true, true); break;
       default: {
         const bool apart = synonym[i] == '|' || code.holds_at(synonym, i);
         copy_to(i + 1, apart, apart);
