@@ -6,7 +6,6 @@
 #include <cstring>
 #include <iostream>
 
-#include "lexicon/text/code_page.h"
 #include "tools/status.h"
 
 namespace kzdic {

@@ -13,9 +13,8 @@
 #include <new>
 #include <nlohmann/json.hpp>
 
+#include "kzlexicon/code_page.h"
 #include "kzlexicon/output.h"
-#include "lexicon/text/code_page.h"
-#include "tools/input_lines.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -23,7 +22,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::size_t kPiece = LineFilter::kPiece;
+constexpr std::size_t kPiece = 65536;
 constexpr std::size_t kLongLine = 16 * kPiece;
 
 class File {
@@ -185,18 +184,11 @@ class Run {
   }
 
   void answer_in_pieces(Block line) {
-    line.whole = line.text;
     for (const bool rehearsal : {true, false}) {
       line.rehearsal = rehearsal;
-      for (line.offset = 0; line.offset < line.whole.size(); line.offset += line.text.size()) {
+      for (std::size_t at = 0; at < line.text.size();) {
         const std::size_t answered = out_.size();
-        try {
-          const std::size_t size = filter_.piece_size(line.whole, line.offset);
-          line.text = line.whole.substr(line.offset, size);
-          filter_.answer(line, out_);
-        } catch (const BadText& bad) {
-          throw BadText(line.offset + bad.offset, bad.what());
-        }
+        at += filter_.answer_piece(line, at, out_);
         if (rehearsal) {
           out_.resize(answered);
         } else {
@@ -219,21 +211,7 @@ class Run {
 
 }  // namespace
 
-std::size_t LineFilter::piece_size(std::string_view line, std::size_t offset) {
-  constexpr std::size_t kLongestReference = 10;
-  std::string_view piece = line.substr(offset, kPiece);
-  if (offset + piece.size() == line.size()) return piece.size();
-  const std::size_t reference = piece.rfind('&');
-  if (reference != std::string_view::npos && reference + kLongestReference > piece.size()) {
-    return reference;
-  }
-  const auto is_inside = [&](std::size_t at) { return (line[offset + at] & 0xC0) == 0x80; };
-  std::size_t size = piece.size();
-  while (size > piece.size() - 4 && is_inside(size)) --size;
-  return size;
-}
-
-void LineFilter::describe(const Block& line, Json& object) {
+void TextLineFilter::describe(const Block& line, Json& object) {
   std::string output;
   answer(line, output);
   object["input"] = line.text;

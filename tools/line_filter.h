@@ -1,6 +1,6 @@
 // Filters: commands that read lines and answer each of them.
 //
-// Lines are answered as they arrive: behind every piece that standard input delivers, the whole
+// Lines are answered as they arrive: after every piece that standard input delivers, the whole
 // lines in it are converted together and written at once, so that a program at the other end of a
 // pipe gets its answer and a file is converted in large pieces. A very long line is the only thing
 // that is held in the memory as a whole: it is answered in pieces, twice, so that none of its
@@ -9,10 +9,15 @@
 #define KZ_TOOLS_LINE_FILTER_H
 
 #include <cstddef>
+#include <memory>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "kzlexicon/text.h"
+#include "tools/status.h"
 
 namespace kzdic {
 
@@ -25,12 +30,8 @@ struct FilterOptions {
 struct Block {
   std::string_view text;
   const std::string& file;
-  std::size_t line;  // number of the first one
-
-  // Of a piece of a long line: the whole line, and where the piece is in it.
-  std::string_view whole = {};
-  std::size_t offset = 0;
-  bool rehearsal = false;  // the same piece comes again, and this answer is thrown away
+  std::size_t line;        // number of the first one
+  bool rehearsal = false;  // the same text comes again, and this answer is thrown away
 };
 
 class LineFilter {
@@ -40,17 +41,29 @@ class LineFilter {
   // Appends what becomes of the lines. Throws BadText or Failure for a line that cannot be
   // answered; the lines before it are then asked for again, one by one.
   virtual void answer(const Block& block, std::string& out) = 0;
-
-  // How many bytes of a long line, from a place on, can be answered as one piece: about kPiece.
-  // Here, they end with a character, and not inside of a character reference.
-  static constexpr std::size_t kPiece = 65536;
-  virtual std::size_t piece_size(std::string_view line, std::size_t offset);
+  // The same for the piece of a long line that begins at a place. Returns the size of the piece.
+  virtual std::size_t answer_piece(const Block& line, std::size_t at, std::string& out) = 0;
 
   // Whether the text is UTF-8, in which a byte-order mark may come first.
   virtual bool reads_utf8() const { return true; }
 
-  // Tells about one line without its line end, when JSON is wanted: its answer, as "output".
-  virtual void describe(const Block& line, nlohmann::ordered_json& object);
+  // Tells about one line without its line end, when JSON is wanted.
+  virtual void describe(const Block& line, nlohmann::ordered_json& object) = 0;
+};
+
+// A filter of the library; JSON has "input" and "output".
+class TextLineFilter : public LineFilter {
+ public:
+  explicit TextLineFilter(std::unique_ptr<TextFilter> filter) : filter_(std::move(filter)) {}
+
+  void answer(const Block& block, std::string& out) override { filter_->append(block.text, out); }
+  std::size_t answer_piece(const Block& line, std::size_t at, std::string& out) override {
+    return filter_->append_piece(line.text, at, out);
+  }
+  void describe(const Block& line, nlohmann::ordered_json& object) override;
+
+ private:
+  std::unique_ptr<TextFilter> filter_;
 };
 
 // Answers all lines of the files. Throws Failure, which names file and line, when one cannot be

@@ -1,13 +1,14 @@
-// Options of the filters of texts.
+// The filters of texts: their options, and the library's filters for them.
 #include <CLI/CLI.hpp>
 
 #include <iostream>
 
-#include "lexicon/text/text_encoding.h"
-#include "tools/alphabet_commands.h"
+#include "kzlexicon/output.h"
+#include "kzlexicon/text.h"
 #include "tools/command_line.h"
 #include "tools/convert_command.h"
-#include "tools/replace_command.h"
+#include "tools/line_filter.h"
+#include "tools/option_checks.h"
 #include "tools/status.h"
 
 namespace kzdic {
@@ -63,16 +64,43 @@ void add_convert(CLI::App& app, Status& status) {
   command->callback([stored, &status] { status = convert(*stored); });
 }
 
-CLI::Option* add_target(CLI::App& command, std::string& to) {
-  return command.add_option("--to", to, "Letters to write")
+void run(std::unique_ptr<TextFilter> filter, const FilterOptions& options) {
+  TextLineFilter lines(std::move(filter));
+  run_filter(lines, options);
+}
+
+void add_target(CLI::App& command, Alphabet& to) {
+  command
+      .add_option_function<std::string>(
+          "--to",
+          [&to](const std::string& text) {
+            to = text == "latin" ? Alphabet::kLatin : Alphabet::kRussian;
+          },
+          "Letters to write")
       ->required()
       ->type_name("{latin,russian}")
-      ->check(CLI::IsMember({"latin", "russian"}).description(""));
+      ->check(one_of({"latin", "russian"}));
+}
+
+template <typename Options>
+struct Stored {
+  Options options;
+  FilterOptions filter;
+};
+
+void check(const TransliterationOptions& options) {
+  const bool latin = options.to == Alphabet::kLatin;
+  if (latin && (options.smart || !options.language.empty())) {
+    throw Failure(Status::kUsage, "--smart and --language are for Latin text: --to russian");
+  }
+  if (!latin && options.capitals) {
+    throw Failure(Status::kUsage, "--capitals is for Russian text: --to latin");
+  }
 }
 
 void add_translit(CLI::App& app) {
-  const auto stored = std::make_shared<TranslitOptions>();
-  TranslitOptions& options = *stored;
+  const auto stored = std::make_shared<Stored<TransliterationOptions>>();
+  TransliterationOptions& options = stored->options;
   CLI::App* command = app.add_subcommand("translit", "Transliterate text, Russian or Latin");
   add_target(*command, options.to);
   command->add_flag("--capitals", options.capitals,
@@ -84,32 +112,36 @@ void add_translit(CLI::App& app) {
       ->add_option("--language", options.language,
                    "To Russian: language of the text, for its accented letters (default: FR)")
       ->type_name("{DE,FR}")
-      ->check(CLI::IsMember({"DE", "FR"}).description(""))
+      ->check(one_of({"DE", "FR"}))
       ->excludes(smart);
-  add_filter_options(*command, options.filter);
-  command->callback([stored] { translit(*stored); });
+  add_filter_options(*command, stored->filter);
+  command->callback([stored] {
+    check(stored->options);
+    run(transliteration(stored->options), stored->filter);
+  });
 }
 
 void add_layout(CLI::App& app) {
-  const auto stored = std::make_shared<LayoutOptions>();
-  LayoutOptions& options = *stored;
+  const auto stored = std::make_shared<Stored<LayoutOptions>>();
   CLI::App* command = app.add_subcommand("layout", "Repair text typed with the wrong keyboard");
-  add_target(*command, options.to);
-  command->add_flag("--look-alike", options.look_alike,
+  add_target(*command, stored->options.to);
+  command->add_flag("--look-alike", stored->options.look_alike,
                     "Letters that look the same, instead of those on the same key");
-  add_filter_options(*command, options.filter);
-  command->callback([stored] { layout(*stored); });
+  add_filter_options(*command, stored->filter);
+  command->callback([stored] { run(keyboard_layout(stored->options), stored->filter); });
 }
 
 void add_replace(CLI::App& app) {
-  const auto stored = std::make_shared<ReplaceOptions>();
-  ReplaceOptions& options = *stored;
+  const auto stored = std::make_shared<Stored<std::string>>();
   CLI::App* command = app.add_subcommand("replace", "Replace the words of a list in text");
-  command->add_option("BUFFER", options.buffer, "Replacement buffer, Windows-1251")
+  command->add_option("BUFFER", stored->options, "Replacement buffer, Windows-1251")
       ->type_name("FILE")
       ->required();
-  add_filter_options(*command, options.filter);
-  command->callback([stored] { replace(*stored); });
+  add_filter_options(*command, stored->filter);
+  command->callback([stored] {
+    refuse_inputs_as_output("-", {stored->options});
+    run(replacement(stored->options), stored->filter);
+  });
 }
 
 }  // namespace

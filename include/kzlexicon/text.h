@@ -1,6 +1,7 @@
 // Texts made from texts: other code pages, transliteration, keyboard layouts, replaced words.
 //
-// A TextFilter turns UTF-8 text into UTF-8 text, line by line; a Conversion goes between encodings.
+// A TextFilter answers text line by line, most of them UTF-8 with UTF-8; a Conversion goes between
+// encodings.
 //
 //     using namespace kz::lexicon;
 //     std::cout << transliteration({.to = Alphabet::kLatin})->apply("ёж") << ' '
@@ -31,23 +32,34 @@ namespace kz::lexicon {
 class KZL_API TextFilter {
  public:
   virtual ~TextFilter();
-  // Appends the answer to a text of any number of lines. Throws BadUtf8, and std::bad_alloc for
-  // lines that memory does not hold.
-  virtual void append(std::string_view text, std::string& out) const = 0;
 
+  // Appends the answer to a text of any number of lines. Throws BadText for bytes that are no
+  // character of the text's encoding, and std::bad_alloc for lines that memory does not hold; what
+  // it has appended until then is of no use.
+  virtual void append(std::string_view text, std::string& out) const = 0;
   std::string apply(std::string_view text) const;
+
+  // The same for one line that is too long to hold its whole answer, in pieces of about 64 KB:
+  // appends the answer to the piece that begins at a place, and returns the size of the piece.
+  //     for (std::size_t at = 0; at < line.size();) {
+  //       at += filter.append_piece(line, at, out);
+  //       ...  // write and clear `out`
+  //     }
+  // The offset of a BadText is that in the line.
+  virtual std::size_t append_piece(std::string_view line, std::size_t at, std::string& out) const;
 };
 
 enum class Alphabet { kLatin, kRussian };
 
 struct TransliterationOptions {
   Alphabet to = Alphabet::kLatin;
-  // To Latin: both letters of a pair such as "Sh" are capitals.
+  // To Latin: capitals for small Russian letters too, and "(" and ")" for "[" and "]".
   bool capitals = false;
-  // To Russian: by the rules of English pronunciation. `small_letters` gives up capitals.
+  // To Russian: English words, written as they sound; with `small_letters`, without capitals.
   bool smart = false;
   bool small_letters = false;
-  // To Russian, not smart: the direction whose accented letters the text has; empty: "FRRU".
+  // To Russian, not smart: the language whose accented letters the text has, "DE" or "FR", or a
+  // direction from it; empty: "FR".
   std::string language{};
 };
 // Throws Error for options that do not go together.
@@ -59,8 +71,8 @@ struct LayoutOptions {
 };
 KZL_API std::unique_ptr<TextFilter> keyboard_layout(const LayoutOptions& options);
 
-// Words replaced by a replacement buffer (docs/tables.md). Throws Error for a file that cannot be
-// read or is no replacement buffer.
+// Words replaced by a replacement buffer (docs/tables.md), a file. Throws Error for one that cannot
+// be read or is no replacement buffer.
 KZL_API std::unique_ptr<TextFilter> replacement(const std::string& path);
 
 // Forms that text can have outside.
@@ -92,7 +104,7 @@ struct MissingCharacter {
 // Full conversion, through Unicode.
 class KZL_API Conversion {
  public:
-  // Throws Error for encodings that are none.
+  // Both by name or alias. Throws Error for encodings that are none.
   Conversion(std::string_view from, std::string_view to);
   ~Conversion();
   Conversion(Conversion&& other) noexcept;
@@ -104,14 +116,19 @@ class KZL_API Conversion {
   // Throws BadText for bytes that are no character, Unmappable for a character that the target
   // lacks.
   std::string apply(std::string_view text) const;
-  // Calls `missing` for each character that the target lacks; what it appends to the answer takes
-  // the character's place.
-  void append(std::string_view text, std::string& out,
-              const std::function<void(const MissingCharacter&, std::string&)>& missing) const;
 
-  // UTF-8 of a text in the encoding it comes from, or of an answer.
-  std::string decoded(std::string_view text) const;
-  std::string decoded_answer(std::string_view answer) const;
+  // Is called for each character that the target lacks; what it appends to the answer takes the
+  // character's place.
+  using Missing = std::function<void(const MissingCharacter&, std::string&)>;
+  // What append_piece has converted. A numeric reference is one character.
+  struct Piece {
+    std::size_t bytes;
+    std::size_t characters;
+  };
+  void append(std::string_view text, std::string& out, const Missing& missing) const;
+  // As TextFilter::append_piece. Columns count from the beginning of the piece.
+  Piece append_piece(std::string_view line, std::size_t at, std::string& out,
+                     const Missing& missing) const;
 
  private:
   struct Impl;
@@ -124,8 +141,9 @@ struct NarrowPair {
   std::string_view to;
 };
 KZL_API std::vector<NarrowPair> narrow_pairs();
-// Zero bytes are kept. Throws Error when libkzcommon does not convert this pair.
-KZL_API std::string convert_narrow(std::string_view text, const Encoding& from, const Encoding& to);
+// From bytes to bytes; zero bytes are kept. Throws Error when libkzcommon does not convert this
+// pair.
+KZL_API std::unique_ptr<TextFilter> narrow_conversion(const Encoding& from, const Encoding& to);
 
 }  // namespace kz::lexicon
 

@@ -1,17 +1,23 @@
-// Pairs of code pages and the functions for them.
-#include "lexicon/text/narrow_conversion.h"
-
+// Pairs of code pages and the functions of libkzcommon for them.
 #include <algorithm>
 #include <array>
 #include <new>
 
 #include "kz/codepage.h"
 #include "kzlexicon/error.h"
+#include "kzlexicon/text.h"
 
 namespace kz::lexicon {
 namespace {
 
-constexpr std::array<NarrowPair, 16> kPairs = {{
+struct NarrowFunction {
+  std::string_view from;
+  std::string_view to;
+  char* (*convert)(const char* source, char* destination);
+  std::size_t growth;  // bytes that one byte may become
+};
+
+constexpr std::array<NarrowFunction, 16> kPairs = {{
     {"windows-1251", "cp866", strruansitooem, 1},
     {"cp866", "windows-1251", strruoemtoansi, 1},
     {"windows-1252", "cp850", stransitooem, 1},
@@ -30,13 +36,9 @@ constexpr std::array<NarrowPair, 16> kPairs = {{
     {"html", "windows-1251", strhtmltoansi, 1},
 }};
 
-}  // namespace
-
-std::span<const NarrowPair> narrow_pairs() { return kPairs; }
-
-const NarrowPair& find_narrow_pair(const Encoding& from, const Encoding& to) {
+const NarrowFunction& find_pair(const Encoding& from, const Encoding& to) {
   std::string names;
-  for (const NarrowPair& pair : kPairs) {
+  for (const NarrowFunction& pair : kPairs) {
     if (pair.from == from.name && pair.to == to.name) return pair;
     names += "\n  " + std::string(pair.from) + " to " + std::string(pair.to);
   }
@@ -44,18 +46,38 @@ const NarrowPair& find_narrow_pair(const Encoding& from, const Encoding& to) {
                                         " to " + std::string(to.name) + "; there are" + names);
 }
 
-void append_narrowed(std::string_view text, const NarrowPair& pair, std::string& out) {
-  const std::string source(text);
-  std::string room;
-  for (std::size_t at = 0;;) {
-    const std::size_t end = std::min(source.find('\0', at), source.size());
-    if (end - at > room.max_size() / pair.growth - 1) throw std::bad_alloc();
-    room.resize(std::max(room.size(), (end - at) * pair.growth + 1));
-    out.append(room.data(), pair.convert(source.data() + at, room.data()));
-    if (end == source.size()) return;
-    out += '\0';
-    at = end + 1;
+class NarrowConversion : public TextFilter {
+ public:
+  explicit NarrowConversion(const NarrowFunction& function) : function_(function) {}
+
+  void append(std::string_view text, std::string& out) const override {
+    const std::string source(text);
+    std::string room;
+    for (std::size_t at = 0;;) {
+      const std::size_t end = std::min(source.find('\0', at), source.size());
+      if (end - at > room.max_size() / function_.growth - 1) throw std::bad_alloc();
+      room.resize(std::max(room.size(), (end - at) * function_.growth + 1));
+      out.append(room.data(), function_.convert(source.data() + at, room.data()));
+      if (end == source.size()) return;
+      out += '\0';
+      at = end + 1;
+    }
   }
+
+ private:
+  const NarrowFunction& function_;
+};
+
+}  // namespace
+
+std::vector<NarrowPair> narrow_pairs() {
+  std::vector<NarrowPair> pairs;
+  for (const NarrowFunction& pair : kPairs) pairs.push_back({pair.from, pair.to});
+  return pairs;
+}
+
+std::unique_ptr<TextFilter> narrow_conversion(const Encoding& from, const Encoding& to) {
+  return std::make_unique<NarrowConversion>(find_pair(from, to));
 }
 
 }  // namespace kz::lexicon

@@ -7,8 +7,8 @@
 
 namespace kz::lexicon {
 
-// A byte without a character in Windows-1251. It stands for each character that the page lacks, and
-// for zeros; the functions pass it through.
+// A byte without a character in Windows-1251. It takes the place of each character that the page
+// lacks, and of zeros; the functions pass it through.
 inline constexpr char kForeign = static_cast<char>(152);
 
 class RussianText {
@@ -17,7 +17,7 @@ class RussianText {
 
   const std::string& bytes() const { return bytes_; }
 
-  // UTF-8 of what was made of the bytes: as many foreign characters stand in it, in their order.
+  // UTF-8 of what was made of the bytes: as many foreign characters are in it, in their order.
   std::string restore(std::string_view made) const;
 
  private:

@@ -7,9 +7,12 @@
 #include <optional>
 
 #include "kzlexicon/error.h"
+#include "lexicon/text/code_page.h"
 
 namespace kz::lexicon {
 namespace {
+
+using Form = Encoding::Form;
 
 constexpr std::array<Encoding, 9> kEncodings = {{
     {"windows-1251", {"cp1251", "win1251", "1251"}, Form::kPage, CodePage::kRussian},

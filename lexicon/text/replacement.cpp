@@ -1,40 +1,43 @@
-// Replacement by the library, in Windows-1251.
-#include "tools/replace_command.h"
-
+// Replacement by a buffer of libkzcommon, in Windows-1251.
 #include <algorithm>
 #include <array>
 #include <bitset>
 #include <iterator>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <vector>
 
 #include "kz/dic_error.h"
 #include "kz/replace_buffer.h"
-#include "kzlexicon/output.h"
+#include "kzlexicon/text.h"
 #include "lexicon/text/russian_text.h"
-#include "tools/status.h"
+#include "lexicon/text/text_filter.h"
 
-namespace kzdic {
+namespace kz::lexicon {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kRoom = 1 << 20;  // for the answer to a piece of text
 
+// The lines of a buffer, and which texts they take.
 class Words {
  public:
   explicit Words(const std::string& path) {
     switch (buffer_.Load(path.c_str())) {
       case DIC_OK: break;
       case DIC_ERR_FORMAT:
-        throw Failure(Status::kDamaged, path + ": has a zero byte or is not shorter than " +
-                                            std::to_string(REPLACE_BUFFER_LIMIT) + " bytes");
-      default: throw Failure(Status::kFile, path + ": cannot read");
+        throw Error(ErrorCode::kData,
+                    "has a zero byte or is not shorter than " +
+                        std::to_string(REPLACE_BUFFER_LIMIT) + " bytes",
+                    {.file = path});
+      default: throw Error(ErrorCode::kFile, "cannot read", {.file = path});
     }
     read_lines(path);
   }
 
-  std::string replaced(std::string_view text) {
+  std::string replaced(std::string_view text) const {
+    const std::lock_guard lock(mutex_);
     std::string result;
     while (!text.empty()) {
       const std::string piece(text.substr(0, first_piece(text, kRoom / growth_)));
@@ -47,10 +50,10 @@ class Words {
   }
 
   // The size of a piece at the beginning of a text that can be replaced separately: at most `size`
-  // where that can be. Words of which the end is behind the text are left to the next piece.
+  // where that can be. Words of which the end is after the text are left to the next piece.
   std::size_t first_piece(std::string_view text, std::size_t size) const {
     if (text.size() <= size) return text.size();
-    // A character that is in no word is copied, and all lines are tried behind it.
+    // A character that is in no word is copied, and all lines are tried after it.
     const auto separates = [this](char c) { return !in_words_[static_cast<unsigned char>(c)]; };
     const auto target = text.begin() + static_cast<std::ptrdiff_t>(size);
     const auto before = std::find_if(std::make_reverse_iterator(target), text.rend(), separates);
@@ -68,7 +71,7 @@ class Words {
     bool replaces;
   };
 
-  // The first place behind this one at which all lines are tried.
+  // The first place after this one at which all lines are tried.
   std::size_t next_place(std::string_view text, std::size_t at) const {
     const Line* after = nullptr;  // lines up to this one have been tried
     for (bool dropped = true; dropped && at < text.size();) {
@@ -93,11 +96,10 @@ class Words {
       const std::string_view line = rest.substr(0, end);
       rest.remove_prefix(std::min(rest.size(), line.size() + kLineEnd.size()));
       if (line.find_first_of(kLineEnd) != std::string_view::npos) {
-        throw Failure(Status::kDamaged,
-                      at_line(path, number, "the line does not end with CR and LF"));
+        throw Error(ErrorCode::kData, "the line does not end with CR and LF", {path, number});
       }
       if (line.find(kForeign) != std::string_view::npos) {
-        throw Failure(Status::kDamaged, at_line(path, number, "the line is not Windows-1251"));
+        throw Error(ErrorCode::kData, "the line is not Windows-1251", {path, number});
       }
       const std::size_t word = std::min(line.find('='), line.size());
       for (const char c : line.substr(0, word)) in_words_.set(static_cast<unsigned char>(c));
@@ -111,7 +113,8 @@ class Words {
     }
   }
 
-  CFindBuffer buffer_{0};
+  mutable CFindBuffer buffer_{0};  // serves one thread at a time
+  mutable std::mutex mutex_;
   std::bitset<256> in_words_;  // by character
   std::size_t growth_ = 1;     // characters that one character of a word can become
   std::size_t longest_ = 0;    // of the words
@@ -119,37 +122,43 @@ class Words {
   std::array<std::vector<const Line*>, 256> lines_by_first_;  // characters of their words
 };
 
-class ReplaceFilter : public LineFilter {
+class Replacement : public TextFilter {
  public:
-  explicit ReplaceFilter(const std::string& path) : words_(path) {}
+  explicit Replacement(const std::string& path) : words_(path) {}
 
-  std::size_t piece_size(std::string_view line, std::size_t offset) override {
-    const std::size_t most = LineFilter::piece_size(line, offset);
-    if (offset + most == line.size()) return most;
-    const std::string bytes = RussianText(line.substr(offset, most)).bytes();
+  void append(std::string_view text, std::string& out) const override {
+    const RussianText russian(text);
+    out += russian.restore(words_.replaced(russian.bytes()));
+  }
+
+  std::size_t append_piece(std::string_view line, std::size_t at, std::string& out) const override {
+    return answer_piece(at, [&] {
+      const std::size_t size = separate_piece(line, at);
+      append(line.substr(at, size), out);
+      return size;
+    });
+  }
+
+ private:
+  std::size_t separate_piece(std::string_view line, std::size_t at) const {
+    const std::size_t most = piece_size(line, at);
+    if (at + most == line.size()) return most;
+    const std::string bytes = RussianText(line.substr(at, most)).bytes();
     const std::size_t characters = words_.first_piece(bytes, bytes.size() - words_.longest_word());
     std::size_t size = 0;
     for (std::size_t left = characters + 1; size < most; ++size) {
-      if ((line[offset + size] & 0xC0) != 0x80 && --left == 0) break;
+      if ((line[at + size] & 0xC0) != 0x80 && --left == 0) break;
     }
     return size;
   }
 
-  void answer(const Block& block, std::string& out) override {
-    const RussianText text(block.text);
-    out += text.restore(words_.replaced(text.bytes()));
-  }
-
- private:
   Words words_;
 };
 
 }  // namespace
 
-void replace(const ReplaceOptions& options) {
-  refuse_inputs_as_output("-", {options.buffer});
-  ReplaceFilter filter(options.buffer);
-  run_filter(filter, options.filter);
+std::unique_ptr<TextFilter> replacement(const std::string& path) {
+  return std::make_unique<Replacement>(path);
 }
 
-}  // namespace kzdic
+}  // namespace kz::lexicon
