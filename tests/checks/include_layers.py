@@ -24,7 +24,7 @@ ALLOWED = {
     "grammar": FOUNDATION | TEXT | {"grammar"},
     "morphology": UTIL | {"grammar", "morphology"},
     "lexicon": {"lexicon", "platform/replace.h", "platform/memory_file.h"},
-    "tools": {"tools", "lexicon"},
+    "tools": {"tools"},
     "examples": set(),
     "bench": {"bench", "text/literal.h"},
     "fuzz": {"fuzz", "text/literal.h"},
