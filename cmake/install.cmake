@@ -1,10 +1,10 @@
-# Installed files: library, headers, tool, CMake package (find_package(KZCommon), target
-# KZ::kzcommon) and pkg-config file.
+# Installed files: libraries, headers, tool, CMake package (find_package(KZCommon), targets
+# KZ::kzcommon and KZ::kzlexicon) and pkg-config file.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS kzcommon EXPORT KZCommonTargets
+install(TARGETS kzcommon kzlexicon EXPORT KZCommonTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY include/kz DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/kz include/kzlexicon DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(TARGET kzdic)
   install(TARGETS kzdic RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
