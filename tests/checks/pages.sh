@@ -10,11 +10,16 @@ commands=$("$kzdic" --help | sed -n '/^Subcommands:/,$p' | sed -n 's/^  \([a-z]\
 [ "$(wc -w <<<"$commands")" -ge 5 ] || fail "no commands in the help: $commands"
 
 for command in $commands; do
-  page=$build/man/kzdic-$command.1
-  [ -s "$page" ] || fail "no manual page for $command: docs/man/kzdic-$command.scd"
-  grep -q "@" <(sed -n '/^@/p' "$page.scd") && fail "$page.scd: a placeholder is left"
-  grep -q "kzdic-$command" "$source/docs/man/kzdic.scd" ||
-    fail "docs/man/kzdic.scd does not refer to kzdic-$command"
+  [ -s "$build/man/kzdic-$command.1" ] || fail "no manual page: docs/man/kzdic-$command.scd"
+done
+for page in "$build"/man/*.[15]; do
+  ! grep -q "^@" "$page.scd" || fail "$page.scd: a placeholder is left"
+  reference=$(basename "$page" | sed 's/\(.*\)\.\(.\)$/*\1*(\2)/')
+  [ "$reference" = "*kzdic*(1)" ] || grep -qF "$reference" "$source/docs/man/kzdic.scd" ||
+    fail "docs/man/kzdic.scd does not refer to $reference"
+done
+for reference in $(grep -oh '\*kzdic[a-z-]*\*([0-9])' "$source"/docs/man/*.scd | sort -u | tr -d '*'); do
+  [ -s "$build/man/$(sed 's/(\(.\))/.\1/' <<<"$reference")" ] || fail "no manual page $reference"
 done
 
 # What bash offers behind the words given; the last one is being typed.
