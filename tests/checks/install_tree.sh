@@ -8,17 +8,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 cmake --install "$build" --prefix "$work/tree" >"$work/install.log" || { cat "$work/install.log"; exit 1; }
-pc=$(find "$work/tree" -name kzcommon.pc)
-libdir=$(dirname "$(dirname "$pc")")
-
-export PKG_CONFIG_PATH=${pc%/*}
-# Every function that the headers declare to C, as an element of the client's table.
-echo '#include <kz/kzcommon.h>' | cc -E -P $(pkg-config --cflags kzcommon) - | tr '\n' ' ' |
-  grep -oP 'visibility\("default"\)\)\)[^;(]*?\K\w+(?=\()' |
-  sed 's/.*/(function*)&,/' >"$work/functions.inc"
-cc -std=c11 -Wall -Wextra -Wpedantic -Werror "-I$work" "$clients/client.c" -o "$work/c_client" \
-  $(pkg-config --cflags --libs kzcommon) "-Wl,-rpath,$libdir"
-"$work/c_client"
+"$(dirname "$0")/c_client.sh" "$work/tree" "$clients" "$work"
 
 cmake -S "$clients" -B "$work/cpp" -DCMAKE_PREFIX_PATH="$work/tree" >"$work/configure.log" ||
   { cat "$work/configure.log"; exit 1; }
@@ -26,5 +16,6 @@ cmake --build "$work/cpp"
 "$work/cpp/client"
 
 if [ -x "$work/tree/bin/kzdic" ]; then
+  libdir=$(dirname "$(find "$work/tree" -name libkzcommon.so)")
   LD_LIBRARY_PATH=$libdir "$work/tree/bin/kzdic" --version
 fi
