@@ -3,16 +3,24 @@
 #define KZ_FUZZ_SCRATCH_H
 
 #include <cstdlib>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
-// Ends with a slash.
+// Ends with a slash. A run that ends by itself removes it.
 inline const std::string& scratch_directory() {
-  static const std::string result = [] {
-    std::string pattern = "/tmp/kz-fuzz-XXXXXX";
-    if (mkdtemp(pattern.data()) == nullptr) std::abort();
-    return pattern + "/";
-  }();
-  return result;
+  static const struct Directory {
+    Directory() {
+      if (mkdtemp(path.data()) == nullptr) std::abort();
+      path += '/';
+    }
+    ~Directory() {
+      std::error_code ignored;
+      std::filesystem::remove_all(path, ignored);
+    }
+    std::string path = "/tmp/kz-fuzz-XXXXXX";
+  } directory;
+  return directory.path;
 }
 
 #endif  // KZ_FUZZ_SCRATCH_H
