@@ -1,13 +1,12 @@
 // Build of a dictionary from source text.
-#include "tools/build_command.h"
-
 #include <iostream>
 #include <utility>
 
 #include "kzlexicon/builder.h"
 #include "kzlexicon/output.h"
-#include "tools/input_lines.h"
+#include "tools/dictionary_commands.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {

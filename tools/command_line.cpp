@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "tools/streams.h"
+
 namespace kzdic {
 namespace {
 
@@ -99,7 +101,7 @@ int run_command_line(int argc, char** argv, const char* version) {
     // Help and version come this way, too.
     if (error.get_exit_code() != 0) throw Failure(Status::kUsage, describe(*app, error));
     app->exit(error);
-    if (!std::cout.flush()) throw Failure(Status::kFile, "cannot write to standard output");
+    finish_output();
   }
   return static_cast<int>(status);
 }

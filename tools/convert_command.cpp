@@ -6,6 +6,7 @@
 
 #include "kzlexicon/text.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -143,17 +144,17 @@ Status convert(const ConvertOptions& options) {
   return conversion.found() && options.check ? Status::kNotFound : Status::kOk;
 }
 
-void list_code_pages(std::ostream& out) {
+void list_code_pages() {
   for (const Encoding& encoding : encodings()) {
-    out << encoding.name;
+    std::cout << encoding.name;
     for (const std::string_view alias : encoding.aliases) {
-      if (!alias.empty()) out << ' ' << alias;
+      if (!alias.empty()) std::cout << ' ' << alias;
     }
-    out << '\n';
+    std::cout << '\n';
   }
-  out << "\nwith --narrow\n";
-  for (const NarrowPair& pair : narrow_pairs()) out << pair.from << " to " << pair.to << '\n';
-  if (!out.flush()) throw Failure(Status::kFile, "cannot write to standard output");
+  std::cout << "\nwith --narrow\n";
+  for (const NarrowPair& pair : narrow_pairs()) std::cout << pair.from << " to " << pair.to << '\n';
+  finish_output();
 }
 
 }  // namespace kzdic

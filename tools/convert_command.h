@@ -2,7 +2,6 @@
 #ifndef KZ_TOOLS_CONVERT_COMMAND_H
 #define KZ_TOOLS_CONVERT_COMMAND_H
 
-#include <iosfwd>
 #include <optional>
 #include <string>
 
@@ -23,8 +22,8 @@ struct ConvertOptions {
 // kNotFound when a check found something.
 Status convert(const ConvertOptions& options);
 
-// The names of the code pages, and the pairs that there are narrow conversions for.
-void list_code_pages(std::ostream& out);
+// Prints the names of the code pages, and the pairs that there are narrow conversions for.
+void list_code_pages();
 
 }  // namespace kzdic
 

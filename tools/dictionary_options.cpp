@@ -1,11 +1,8 @@
 // Options of the commands on whole dictionaries.
 #include <CLI/CLI.hpp>
 
-#include "tools/build_command.h"
 #include "tools/command_line.h"
-#include "tools/dump_command.h"
-#include "tools/import_command.h"
-#include "tools/info_command.h"
+#include "tools/dictionary_commands.h"
 #include "tools/option_checks.h"
 
 namespace kzdic {

@@ -1,11 +1,11 @@
 // A dictionary as source text.
-#include "tools/dump_command.h"
-
 #include <iostream>
 
 #include "kzlexicon/output.h"
 #include "kzlexicon/source.h"
+#include "tools/dictionary_commands.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -29,8 +29,7 @@ void dump(const DumpOptions& options) {
                 << ": not the source text of its entry: " << line.text << '\n';
     }
   }
-  std::cout.flush();
-  if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
+  finish_output();
   if (bad != 0) {
     throw Failure(Status::kDamaged, std::to_string(bad) + (bad == 1 ? " entry" : " entries") +
                                         " cannot be written as source text");

@@ -8,6 +8,7 @@
 #include "kzlexicon/entry.h"
 #include "tools/grammar_output.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -24,40 +25,41 @@ std::string join(const std::vector<std::string>& texts, std::string_view separat
 // The readable form: one paragraph per entry.
 class TextPrinter : public Printer {
  public:
-  TextPrinter(bool grammar, std::ostream& out) : grammar_(grammar), out_(out) {}
+  explicit TextPrinter(bool grammar) : grammar_(grammar) {}
 
   void print(const std::string& word, const std::vector<Found>& found, bool line) override {
     for (const Found& one : found) {
-      out_ << word << "  (" << one.path << ", " << describe_step(one.answer) << ")\n";
+      std::cout << word << "  (" << one.path << ", " << describe_step(one.answer) << ")\n";
       for (const Entry& entry : one.answer.entries) print_entry(entry.view());
     }
-    if (found.empty()) (line ? out_ : std::cerr) << word << ": not found\n";
-    if (line) out_ << '\n';
+    if (found.empty()) (line ? std::cout : std::cerr) << word << ": not found\n";
+    if (line) std::cout << '\n';
   }
 
   void refuse(const std::string& word, const std::string& message, bool line) override {
-    (line ? out_ : std::cerr << "kzdic: ") << word << ": " << message << (line ? "\n\n" : "\n");
+    (line ? std::cout : std::cerr << "kzdic: ")
+        << word << ": " << message << (line ? "\n\n" : "\n");
   }
 
  private:
   void print_entry(const EntryView& entry) {
-    out_ << "  " << entry.spelling;
+    std::cout << "  " << entry.spelling;
     if (!entry.part_code.empty()) {
-      out_ << ", " << (entry.part_of_speech.empty() ? entry.part_code : entry.part_of_speech);
+      std::cout << ", " << (entry.part_of_speech.empty() ? entry.part_code : entry.part_of_speech);
     }
-    if (!entry.attribute.empty()) out_ << " [" << entry.attribute << ']';
-    out_ << '\n';
+    if (!entry.attribute.empty()) std::cout << " [" << entry.attribute << ']';
+    std::cout << '\n';
     if (grammar_) print_grammar("    ", entry_grammar(entry), entry.language);
     for (const MeaningView& meaning : entry.meanings) {
       print_meaning(meaning);
       if (grammar_) print_grammar("       ", meaning_grammar(entry, meaning), entry.language);
     }
-    if (!entry.reference.empty()) out_ << "    (" << entry.reference << ")\n";
+    if (!entry.reference.empty()) std::cout << "    (" << entry.reference << ")\n";
   }
 
   void print_grammar(const char* indent, const std::vector<WordGrammar>& words,
                      const std::string& language) {
-    if (!words.empty()) out_ << indent << describe(words, language) << '\n';
+    if (!words.empty()) std::cout << indent << describe(words, language) << '\n';
   }
 
   void print_meaning(const MeaningView& meaning) {
@@ -71,24 +73,21 @@ class TextPrinter : public Printer {
                                                                  : synonym);
     }
     if (!synonyms.empty()) pieces.push_back(join(synonyms, "; "));
-    out_ << "    " << join(pieces, " ") << '\n';
+    std::cout << "    " << join(pieces, " ") << '\n';
   }
 
   bool grammar_;
-  std::ostream& out_;
 };
 
 // Entries as they stand, one per line.
 class RawPrinter : public Printer {
  public:
-  explicit RawPrinter(std::ostream& out) : out_(out) {}
-
   void print(const std::string& word, const std::vector<Found>& found, bool line) override {
     for (const Found& one : found) {
-      for (const Entry& entry : one.answer.entries) out_ << entry.text() << '\n';
+      for (const Entry& entry : one.answer.entries) std::cout << entry.text() << '\n';
     }
     if (line) {
-      out_ << '\n';
+      std::cout << '\n';
     } else if (found.empty()) {
       std::cerr << word << ": not found\n";
     }
@@ -96,17 +95,14 @@ class RawPrinter : public Printer {
 
   void refuse(const std::string& word, const std::string& message, bool line) override {
     std::cerr << "kzdic: " << word << ": " << message << '\n';
-    if (line) out_ << '\n';
+    if (line) std::cout << '\n';
   }
-
- private:
-  std::ostream& out_;
 };
 
 // One object per word.
 class JsonPrinter : public Printer {
  public:
-  JsonPrinter(bool grammar, std::ostream& out) : grammar_(grammar), out_(out) {}
+  explicit JsonPrinter(bool grammar) : grammar_(grammar) {}
 
   void print(const std::string& word, const std::vector<Found>& found, bool) override {
     Json answer = {{"query", word}, {"found", !found.empty()}, {"entries", Json::array()}};
@@ -116,19 +112,15 @@ class JsonPrinter : public Printer {
         answer["entries"].push_back(entry_object(entry.view(), one.path, step));
       }
     }
-    write(answer);
+    print_json(answer);
   }
 
   void refuse(const std::string& word, const std::string& message, bool) override {
-    write({{"query", word}, {"error", message}});
+    print_json({{"query", word}, {"error", message}});
   }
 
  private:
   using Json = nlohmann::ordered_json;
-
-  void write(const Json& answer) {
-    out_ << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
-  }
 
   Json entry_object(const EntryView& entry, const std::string& path,
                     const std::string& step) const {
@@ -150,15 +142,14 @@ class JsonPrinter : public Printer {
   }
 
   bool grammar_;
-  std::ostream& out_;
 };
 
 }  // namespace
 
-std::unique_ptr<Printer> make_printer(bool raw, bool json, bool grammar, std::ostream& out) {
-  if (json) return std::make_unique<JsonPrinter>(grammar, out);
-  if (raw) return std::make_unique<RawPrinter>(out);
-  return std::make_unique<TextPrinter>(grammar, out);
+std::unique_ptr<Printer> make_printer(bool raw, bool json, bool grammar) {
+  if (json) return std::make_unique<JsonPrinter>(grammar);
+  if (raw) return std::make_unique<RawPrinter>();
+  return std::make_unique<TextPrinter>(grammar);
 }
 
 }  // namespace kzdic

@@ -2,7 +2,6 @@
 #ifndef KZ_TOOLS_ENTRY_PRINTER_H
 #define KZ_TOOLS_ENTRY_PRINTER_H
 
-#include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
@@ -31,7 +30,7 @@ class Printer {
 };
 
 // With `grammar`, text and JSON also tell what attribute blocks say.
-std::unique_ptr<Printer> make_printer(bool raw, bool json, bool grammar, std::ostream& out);
+std::unique_ptr<Printer> make_printer(bool raw, bool json, bool grammar);
 
 }  // namespace kzdic
 

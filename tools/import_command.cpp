@@ -1,11 +1,11 @@
 // Import of databases of other programs.
-#include "tools/import_command.h"
-
 #include <iostream>
 
 #include "kzlexicon/importers.h"
 #include "kzlexicon/output.h"
+#include "tools/dictionary_commands.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -39,8 +39,7 @@ void import_database(const ImportOptions& options) {
   refuse_inputs_as_output(options.output, dictd_files(options.base));
   if (options.output == "-") {
     write_source(options, std::cout);
-    if (!std::cout.flush()) throw Failure(Status::kFile, "cannot write to standard output");
-    return;
+    return finish_output();
   }
   OutputFile output(options.output);
   write_source(options, output.stream());

@@ -6,8 +6,8 @@
 
 #include "kzlexicon/inflector.h"
 #include "kzlexicon/output.h"
-#include "tools/input_lines.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -30,35 +30,29 @@ Json as_json(const InflectionReading& reading) {
           {"stem_change", reading.stem_change}, {"grammar", reading.grammar}};
 }
 
-class Inflection {
+class Inflection : public WordSession {
  public:
   explicit Inflection(const InflectOptions& options) : options_(options), table_(options.table) {}
 
-  // Answers one word; `line` means that it is a line of standard input.
-  void answer(const std::string& word, bool line) {
+  bool answer(const std::string& word, bool line) override {
     std::vector<Ending> endings = table_.endings(word);
     if (!options_.all && endings.size() > 1) endings.resize(1);
-    all_known_ = all_known_ && !endings.empty();
     if (options_.json) {
-      print_json(word, endings);
+      print_object(word, endings);
     } else {
       print_text(word, endings, line);
     }
-    std::cout.flush();
+    return !endings.empty();
   }
 
-  // Says why a word cannot be taken apart.
-  void refuse(const std::string& word, const std::string& message, bool line) {
+  void refuse(const std::string& word, const std::string& message, bool line) override {
     if (options_.json) {
-      print({{"word", word}, {"error", message}});
+      print_json({{"word", word}, {"error", message}});
     } else {
       (line ? std::cout : std::cerr << "kzdic: ")
           << word << ": " << message << (line ? "\n\n" : "\n");
     }
-    std::cout.flush();
   }
-
-  bool all_known() const { return all_known_; }
 
  private:
   static void print_text(const std::string& word, const std::vector<Ending>& endings, bool line) {
@@ -72,7 +66,7 @@ class Inflection {
     if (line) std::cout << '\n';
   }
 
-  static void print_json(const std::string& word, const std::vector<Ending>& endings) {
+  static void print_object(const std::string& word, const std::vector<Ending>& endings) {
     Json answer = {{"word", word}, {"found", !endings.empty()}, {"endings", Json::array()}};
     for (const Ending& ending : endings) {
       Json records = Json::array();
@@ -82,16 +76,11 @@ class Inflection {
                                    {"attributes", ending.attributes},
                                    {"records", records}});
     }
-    print(answer);
-  }
-
-  static void print(const Json& answer) {
-    std::cout << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+    print_json(answer);
   }
 
   const InflectOptions& options_;
   Inflector table_;
-  bool all_known_ = true;
 };
 
 void compile(const InflectOptions& options) {
@@ -110,14 +99,7 @@ Status inflect(const InflectOptions& options) {
   if (!options.source.empty()) compile(options);
   if (options.words.empty()) return Status::kOk;
   Inflection session(options);
-  const Status status =
-      for_each_word(options.words,
-                    {[&session](const std::string& word, bool line) { session.answer(word, line); },
-                     [&session](const std::string& word, const std::string& message, bool line) {
-                       session.refuse(word, message, line);
-                     }});
-  if (status != Status::kOk) return status;
-  return session.all_known() ? Status::kOk : Status::kNotFound;
+  return answer_words(options.words, session);
 }
 
 }  // namespace kzdic

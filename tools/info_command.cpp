@@ -1,12 +1,11 @@
 // Description of a dictionary file.
-#include "tools/info_command.h"
-
 #include <iomanip>
 #include <iostream>
 #include <string_view>
 
 #include "kzlexicon/dictionary.h"
-#include "tools/status.h"
+#include "tools/dictionary_commands.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -69,8 +68,7 @@ void info(const std::string& path) {
   print_header(path, dictionary.header());
   print_index(dictionary.header(), count);
   print_records(dictionary.header(), count);
-  std::cout.flush();
-  if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
+  finish_output();
 }
 
 }  // namespace kzdic

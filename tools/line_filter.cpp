@@ -16,6 +16,7 @@
 #include "kzlexicon/code_page.h"
 #include "kzlexicon/output.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -159,8 +160,8 @@ class Run {
         out_.resize(std::min(answered, out_.size()));
         write();
         throw Failure(Status::kDamaged,
-                      at_line(line.file, line.line,
-                              "byte " + std::to_string(bad.offset + 1) + ' ' + bad.what()));
+                      at_place({.file = line.file, .line = line.line},
+                               "byte " + std::to_string(bad.offset + 1) + ' ' + bad.what()));
       } catch (const Error&) {
         out_.resize(std::min(answered, out_.size()));
         write();
@@ -199,9 +200,9 @@ class Run {
   }
 
   void write() {
-    std::cout.write(out_.data(), static_cast<std::streamsize>(out_.size())).flush();
+    std::cout.write(out_.data(), static_cast<std::streamsize>(out_.size()));
     out_.clear();
-    if (!std::cout) throw Failure(Status::kFile, "cannot write to standard output");
+    finish_output();
   }
 
   LineFilter& filter_;

@@ -11,8 +11,8 @@
 #include "kzlexicon/dictionary.h"
 #include "kzlexicon/inflector.h"
 #include "tools/entry_printer.h"
-#include "tools/input_lines.h"
 #include "tools/status.h"
+#include "tools/streams.h"
 
 namespace kzdic {
 namespace {
@@ -24,19 +24,17 @@ bool names_dictionary(const std::string& argument) {
   return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
 }
 
-class Lookup {
+class Lookup : public WordSession {
  public:
   explicit Lookup(const LookupOptions& options)
-      : options_(options),
-        printer_(make_printer(options.raw, options.json, options.grammar, std::cout)) {
+      : options_(options), printer_(make_printer(options.raw, options.json, options.grammar)) {
     if (!options.inflected.empty()) table_.emplace(options.inflected);
     for (const std::string& path : options.dictionaries) opened_.emplace_back(path);
     for (Dictionary& dictionary : opened_) dictionaries_.push_back(&dictionary);
     if (!options.set.directory.empty()) open_set();
   }
 
-  // Answers one word; `line` means that it is a line of standard input.
-  void answer(const std::string& word, bool line) {
+  bool answer(const std::string& word, bool line) override {
     std::vector<Found> found;
     for (Dictionary* const dictionary : dictionaries_) {
       Answer answer =
@@ -46,18 +44,13 @@ class Lookup {
       if (options_.first) break;
     }
     if (found.empty() && table_) found = inflected(word);
-    all_found_ = all_found_ && !found.empty();
     printer_->print(word, found, line);
-    std::cout.flush();
+    return !found.empty();
   }
 
-  // Says why a word cannot be looked up.
-  void refuse(const std::string& word, const std::string& message, bool line) {
+  void refuse(const std::string& word, const std::string& message, bool line) override {
     printer_->refuse(word, message, line);
-    std::cout.flush();
   }
-
-  bool all_found() const { return all_found_; }
 
  private:
   void open_set() {
@@ -89,7 +82,6 @@ class Lookup {
   std::optional<Inflector> table_;
   std::vector<Dictionary> opened_;
   std::vector<Dictionary*> dictionaries_;  // in the order of the search
-  bool all_found_ = true;
 };
 
 }  // namespace
@@ -109,14 +101,7 @@ Status lookup(const LookupOptions& options) {
   }
   if (options.words.empty()) throw Failure(Status::kUsage, "no word is given");
   Lookup session(options);
-  const Status status =
-      for_each_word(options.words,
-                    {[&session](const std::string& word, bool line) { session.answer(word, line); },
-                     [&session](const std::string& word, const std::string& message, bool line) {
-                       session.refuse(word, message, line);
-                     }});
-  if (status != Status::kOk) return status;
-  return session.all_found() ? Status::kOk : Status::kNotFound;
+  return answer_words(options.words, session);
 }
 
 }  // namespace kzdic

@@ -1,12 +1,13 @@
 // kzdic: builds, imports, dumps, describes and searches dictionaries, and converts their texts.
 #include <fcntl.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <iostream>
 #include <new>
 
+#include "kzlexicon/output.h"
 #include "tools/command_line.h"
-#include "tools/signals.h"
 #include "tools/status.h"
 
 namespace {
@@ -21,11 +22,29 @@ bool open_standard_descriptors() {
   return true;
 }
 
+void clear_away_and_end(int signal) {
+  kz::lexicon::remove_unfinished_files();
+  raise(signal);  // ends the program when the handler, which is reset, returns
+}
+
+// From now on a signal that ends the program removes unfinished outputs first.
+void watch_signals() {
+  signal(SIGXFSZ, SIG_IGN);  // the write fails
+  for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGPIPE, SIGTERM, SIGXCPU}) {
+    struct sigaction action {};
+    if (sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) continue;
+    action.sa_handler = clear_away_and_end;
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    sigfillset(&action.sa_mask);
+    sigaction(number, &action, nullptr);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (!open_standard_descriptors()) return static_cast<int>(kzdic::Status::kFile);
-  kzdic::watch_signals();
+  watch_signals();
   try {
     return kzdic::run_command_line(argc, argv, "kzdic " KZ_VERSION);
   } catch (const kz::lexicon::Error& error) {

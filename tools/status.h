@@ -28,17 +28,6 @@ struct Failure : Error {
       : Error(static_cast<ErrorCode>(status), message) {}
 };
 
-// "file:line: message"
-inline std::string at_line(const std::string& file, std::size_t line, const std::string& message) {
-  return file + ":" + std::to_string(line) + ": " + message;
-}
-
-// "file: offset N: message"
-inline std::string at_offset(const std::string& file, std::size_t offset,
-                             const std::string& message) {
-  return file + ": offset " + std::to_string(offset) + ": " + message;
-}
-
 }  // namespace kzdic
 
 #endif  // KZ_TOOLS_STATUS_H

@@ -1,8 +1,6 @@
 // The filters of texts: their options, and the library's filters for them.
 #include <CLI/CLI.hpp>
 
-#include <iostream>
-
 #include "kzlexicon/output.h"
 #include "kzlexicon/text.h"
 #include "tools/command_line.h"
@@ -55,7 +53,7 @@ void add_convert(CLI::App& app, Status& status) {
       ->add_flag_callback(
           "--list",
           [] {
-            list_code_pages(std::cout);
+            list_code_pages();
             throw CLI::Success();
           },
           "List the code pages, their other names and the narrow conversions")
