@@ -2,7 +2,6 @@
 #include "lexicon/entry/record_view.h"
 
 #include <algorithm>
-#include <array>
 #include <memory>
 
 #include "kz/entry.h"
@@ -18,17 +17,6 @@ struct CloseEntry {
   void operator()(CDicEntry* entry) const { DicEntryClose(entry); }
 };
 using EntryHandle = std::unique_ptr<CDicEntry, CloseEntry>;
-
-// Names of part codes; their order has no meaning.
-constexpr std::array<std::pair<std::string_view, const char*>, 25> kParts = {{
-    {"N", "noun"},         {"n", "noun"},    {"#", "noun"},        {"V", "verb"},
-    {"v", "verb"},         {"E", "verb"},    {"G", "verb"},        {"U", "verb"},
-    {"X", "verb"},         {"Y", "verb"},    {"Z", "verb"},        {"A", "adjective"},
-    {"a", "adjective"},    {"D", "adverb"},  {"d", "adverb"},      {"R", "pronoun"},
-    {"M", "pronoun"},      {"I", "numeral"}, {"P", "preposition"}, {"C", "conjunction"},
-    {"J", "interjection"}, {"W", "phrase"},  {"w", "phrase"},      {"Я", "predicative"},
-    {"=", "reference"},
-}};
 
 bool is_latin(char32_t c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
@@ -170,13 +158,6 @@ class Viewer {
 };
 
 }  // namespace
-
-std::string part_name(std::string_view code) {
-  for (const auto& [part, name] : kParts) {
-    if (part == code) return name;
-  }
-  return {};
-}
 
 EntryView view_record(const std::string& record, const std::string& language) {
   return Viewer(record, language).view(record);

@@ -9,6 +9,7 @@
 #include "kz/gram_attr.h"
 #include "kz/gram_codec.h"
 #include "kz/gram_record.h"
+#include "kzlexicon/entry.h"
 #include "lexicon/grammar/grammar_fields.h"
 #include "lexicon/search/inflect_table.h"
 #include "lexicon/search/inflector_table.h"
@@ -18,22 +19,10 @@
 namespace kz::lexicon {
 namespace {
 
-constexpr std::pair<std::string_view, std::string_view> kParts[] = {
-    {"N", "noun"},        {"n", "noun"},         {"A", "adjective"},
-    {"a", "adjective"},   {"d", "adjective"},    {"V", "verb"},
-    {"v", "verb"},        {"G", "participle"},   {"E", "participle"},
-    {"д", "gerund"},      {"Я", "predicative"},  {"Ы", "parenthetical word"},
-    {"D", "adverb"},      {"I", "numeral"},      {"P", "preposition"},
-    {"C", "conjunction"}, {"J", "interjection"}, {"w", "phrase"},
-    {"M", "pronoun"},     {"O", "pronoun"},      {"R", "personal pronoun"},
-};
-
-std::string part_name(char code) {
-  const std::string letter = russian_to_utf8(std::string_view(&code, 1));
-  for (const auto& [part, name] : kParts) {
-    if (part == letter) return std::string(name);
-  }
-  return "word";
+// "word" for a code without a name.
+std::string name_of_part(char code) {
+  const std::string name = part_name(russian_to_utf8(std::string_view(&code, 1)));
+  return name.empty() ? "word" : name;
 }
 
 std::string name_of_attribute(std::int16_t kind, std::uint32_t index) {
@@ -57,7 +46,7 @@ InflectionReading reading_of(const std::uint32_t (&record)[2]) {
   Grammar read;
   SetGrSrcAttr(&read.gram, record);
   const char code = static_cast<char>(read.gram.word[2] >> GRAM_CODE_SHIFT);
-  reading.grammar.push_back(part_name(code));
+  reading.grammar.push_back(name_of_part(code));
   // Code and indices are no flags; the paradigm is given as the table has it.
   read.gram.word[2] &= 0xFF;
   read.gram.word[3] = no_grammar().gram.word[3];

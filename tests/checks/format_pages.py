@@ -146,10 +146,30 @@ def check_page():
     expect("dictionary-format.md: password", [secret.header.password.hex(" ") in page], [True])
 
 
+def check_part_names():
+    """The names of part codes, which entries, tags and endings of words have in common."""
+    page = (SOURCE / "docs/entry-format.md").read_text("utf-8")
+    rows = re.findall(r"^\| `([^`]+)` \| (.+) \|$", page.split("| Code | Name |")[1].split("\n\n")[0], re.M)
+    names = [(code, name) for codes, name in rows for code in codes.split()]
+    # A word list of Russian has entries of all codes; a tag string may be empty.
+    kzdic("build", "--language", "RU", "-", "-o", "parts.dic",
+          text="".join(f"а*{code}а\n" for code, _ in names))
+    entries = json.loads(kzdic("lookup", "--json", "parts.dic", "а"))["entries"]
+    found = {entry["part_code"]: entry["part_of_speech"] for entry in entries}
+    expect("entry-format.md: names in entries", sorted(found.items()), sorted(names))
+    described = kzdic("grammar", "decode", "-", text="".join(f"{code} \n" for code, _ in names))
+    expect("entry-format.md: names in grammar", re.findall(r"^part-of-speech +(.), (.+) \(", described, re.M),
+           names)
+    endings = json.loads(kzdic("inflect", "--all", "--json", "ruflex.Dat", "делающий"))["endings"]
+    parts = {record["class"]: record["grammar"][0] for end in endings for record in end["records"]}
+    expect("names in endings", [parts["G"]], [dict(names)["G"]])
+
+
 FILES.mkdir(parents=True, exist_ok=True)
 check_samples()
 check_limits()
 check_table()
 check_page()
+check_part_names()
 print(len(faults), "faults")
 sys.exit(1 if faults else 0)
