@@ -72,6 +72,7 @@ class NarrowConversion : public TextFilter {
 
 std::vector<NarrowPair> narrow_pairs() {
   std::vector<NarrowPair> pairs;
+  pairs.reserve(kPairs.size());
   for (const NarrowFunction& pair : kPairs) pairs.push_back({pair.from, pair.to});
   return pairs;
 }
