@@ -233,6 +233,7 @@ def run(options):
             mutants[folder] = found
     draw, building, tests = Draw(mutants, options.count, deadline), threading.Lock(), {}
     with tempfile.TemporaryDirectory(prefix="kz-mutation-") as directory:
+        os.chmod(directory, 0o755)  # some tests act as another user
         trees = [Tree(pathlib.Path(directory) / str(job), list(mutants),
                       max(1, os.cpu_count() // options.jobs), options.memory << 20)
                  for job in range(options.jobs)]
