@@ -17,12 +17,13 @@ class TempDir {
   TempDir() {
     std::string pattern = (std::filesystem::temp_directory_path() / "kz-test-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary directory");
-    path_ = pattern;
+    path_ = std::filesystem::canonical(pattern);
   }
   TempDir(const TempDir&) = delete;
   TempDir& operator=(const TempDir&) = delete;
   ~TempDir() { std::filesystem::remove_all(path_); }
 
+  const std::filesystem::path& directory() const { return path_; }
   std::string file(const std::string& name) const { return (path_ / name).string(); }
 
   // Makes a file and gives its path.

@@ -11,7 +11,6 @@
 #include <string>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -30,50 +29,36 @@ Record record_of(const Array& array) {
   return record;
 }
 
-// Elements are numbered from 0, the zero element (the empty string).
-std::array<ZCObject, 256> objects;
-
+// Elements are numbered from 0, the zero element (the empty string), to 9.
 template <class Array>
-struct Element {
-  static auto argument(int n) {
-    using T = std::remove_cvref_t<decltype(*std::declval<Array&>().GetData())>;
-    if constexpr (std::is_pointer_v<T>) {
-      return n == 0 ? T{} : static_cast<T>(&objects[static_cast<std::size_t>(n)]);
-    } else {
-      return static_cast<T>(n);
-    }
+auto element(int n) {
+  static std::array<ZCObject, 10> objects;
+  static const char texts[][2] = {"", "1", "2", "3", "4", "5", "6", "7", "8", "9"};
+  using T = std::remove_cvref_t<decltype(*std::declval<Array&>().GetData())>;
+  if constexpr (std::is_same_v<T, ZCString>) {
+    return static_cast<const char*>(texts[n]);
+  } else if constexpr (std::is_pointer_v<T>) {
+    return n == 0 ? T{} : static_cast<T>(&objects[static_cast<std::size_t>(n)]);
+  } else {
+    return static_cast<T>(n);
   }
-  static bool is(const Array& array, int i, int n) {
-    return array.GetAt(i) == argument(n) && array[i] == argument(n);
-  }
-};
+}
 
-template <>
-struct Element<ZCStringArray> {
-  static const char* argument(int n) {
-    static std::array<std::string, 256> texts;
-    std::string& text = texts[static_cast<std::size_t>(n)];
-    if (n != 0) text = "text " + std::to_string(n);
-    return text.c_str();
-  }
-  static bool is(const ZCStringArray& array, int i, int n) {
-    return array.GetAt(i) == argument(n) && array[i] == argument(n);
-  }
-};
-
+// The numbers of the elements, and the room.
 template <class Array>
-void expect_is(const Array& array, const std::vector<int>& elements, int allocated) {
+std::string state(const Array& array) {
   const Record record = record_of(array);
-  const int size = static_cast<int>(elements.size());
-  ASSERT_EQ(array.GetSize(), size);
-  ASSERT_EQ(array.GetUpperBound(), size - 1);
-  ASSERT_EQ(record.size, size);
-  ASSERT_EQ(record.allocated, allocated);
-  ASSERT_EQ(record.data, array.GetData());
-  ASSERT_EQ(record.data == nullptr, allocated == 0);
-  for (int i = 0; i < size; ++i) {
-    ASSERT_TRUE(Element<Array>::is(array, i, elements[static_cast<std::size_t>(i)])) << i;
+  EXPECT_EQ(array.GetSize(), record.size);
+  EXPECT_EQ(array.GetUpperBound(), record.size - 1);
+  EXPECT_EQ(array.GetData(), record.data);
+  EXPECT_EQ(record.data == nullptr, record.allocated == 0);
+  std::string result;
+  for (int i = 0; i < record.size; ++i) {
+    int n = 0;
+    while (n < 10 && !(array.GetAt(i) == element<Array>(n) && array[i] == element<Array>(n))) ++n;
+    result += n < 10 ? static_cast<char>('0' + n) : '?';
   }
+  return result + ' ' + std::to_string(record.allocated);
 }
 
 template <class Array>
@@ -83,100 +68,68 @@ using Arrays = testing::Types<ZCByteArray, ZCWordArray, ZCDWordArray, ZCUIntArra
 TYPED_TEST_SUITE(AnyArray, Arrays);
 
 TYPED_TEST(AnyArray, OperationsLeaveTheirElementsAndTheRoom) {
-  const auto element = [](int n) { return Element<TypeParam>::argument(n); };
-  TypeParam array;
-  array.SetSize(2);
-  array.SetAt(0, element(1));
-  array.ElementAt(1) = element(9);
-  array[1] = element(2);
-  expect_is(array, {1, 2}, 2);
-  array.SetSize(5);
-  expect_is(array, {1, 2, 0, 0, 0}, 6);
-  array.SetSize(1);
-  expect_is(array, {1}, 6);
-  array.SetSize(3);
-  expect_is(array, {1, 0, 0}, 6);
-  array.FreeExtra();
-  expect_is(array, {1, 0, 0}, 3);
-  array.SetSize(4, 10);
-  EXPECT_EQ(array.Add(element(4)), 4);
-  expect_is(array, {1, 0, 0, 0, 4}, 13);
-  array.SetAtGrow(6, element(6));
-  array.SetAtGrow(1, element(7));
-  expect_is(array, {1, 7, 0, 0, 4, 0, 6}, 13);
-  array.RemoveAt(2, 3);
-  expect_is(array, {1, 7, 0, 6}, 13);
-  array.InsertAt(1, element(5), 2);
-  expect_is(array, {1, 5, 5, 7, 0, 6}, 13);
-  array.InsertAt(1, element(3), 0);
-  array.InsertAt(8, element(8), 2);
-  expect_is(array, {1, 5, 5, 7, 0, 6, 0, 0, 8, 8}, 13);
-  array.InsertAt(9, element(2), 9);
-  expect_is(array, {1, 5, 5, 7, 0, 6, 0, 0, 8, 2, 2, 2, 2, 2, 2, 2, 2, 2, 8}, 23);
-  array.RemoveAt(3, 16);
-
-  TypeParam other;
-  EXPECT_EQ(other.Append(array), 0);
-  expect_is(other, {1, 5, 5}, 3);
-  EXPECT_EQ(other.Append(other), 3);
-  expect_is(other, {1, 5, 5, 1, 5, 5}, 7);
-  other.RemoveAt(1, 4);
-  other.InsertAt(1, &other);
-  expect_is(other, {1, 1, 5, 5}, 7);
-  other.InsertAt(4, &array);
-  expect_is(other, {1, 1, 5, 5, 1, 5, 5}, 7);
-  other.Copy(array);
-  other.Copy(other);
-  expect_is(other, {1, 5, 5}, 7);
-  other.RemoveAt(0, 3);
-  array.InsertAt(1, &other);
-  expect_is(array, {1, 5, 5}, 23);
-  other.Copy(other);
-  expect_is(other, {}, 0);
-  array.Copy(other);
-  expect_is(array, {}, 0);
-  array.Add(element(1));
-  array.RemoveAll();
-  expect_is(array, {}, 0);
-  EXPECT_EQ(record_of(array).grow_by, 10) << "the step stays";
+  const auto e = element<TypeParam>;
+  TypeParam a, b;
+  a.SetSize(2);
+  a.SetAt(0, e(1));
+  a.ElementAt(1) = e(9);
+  EXPECT_EQ(state(a), "19 2");
+  EXPECT_EQ((a[1] = e(2), state(a)), "12 2");
+  EXPECT_EQ((a.SetSize(5), state(a)), "12000 6");
+  EXPECT_EQ((a.SetSize(1), state(a)), "1 6");
+  EXPECT_EQ((a.SetSize(3), state(a)), "100 6");
+  EXPECT_EQ((a.FreeExtra(), state(a)), "100 3");
+  a.SetSize(4, 10);
+  EXPECT_EQ(a.Add(e(4)), 4);
+  EXPECT_EQ(state(a), "10004 13");
+  EXPECT_EQ((a.SetAtGrow(6, e(6)), state(a)), "1000406 13");
+  EXPECT_EQ((a.SetAtGrow(1, e(7)), state(a)), "1700406 13");
+  EXPECT_EQ((a.RemoveAt(2, 3), state(a)), "1706 13");
+  EXPECT_EQ((a.InsertAt(1, e(5), 2), state(a)), "155706 13");
+  EXPECT_EQ((a.InsertAt(1, e(3), 0), state(a)), "155706 13");
+  EXPECT_EQ((a.InsertAt(8, e(8), 2), state(a)), "1557060088 13");
+  EXPECT_EQ((a.InsertAt(9, e(2), 9), state(a)), "1557060082222222228 23");
+  a.RemoveAt(3, 16);
+  EXPECT_EQ(b.Append(a), 0);
+  EXPECT_EQ(state(b), "155 3");
+  EXPECT_EQ(b.Append(b), 3);
+  EXPECT_EQ(state(b), "155155 7");
+  EXPECT_EQ((b.RemoveAt(1, 4), b.InsertAt(1, &b), state(b)), "1155 7");
+  EXPECT_EQ((b.InsertAt(4, &a), state(b)), "1155155 7");
+  EXPECT_EQ((b.Copy(a), b.Copy(b), state(b)), "155 7");
+  EXPECT_EQ((b.RemoveAt(0, 3), a.InsertAt(1, &b), state(a)), "155 23");
+  EXPECT_EQ((b.Copy(b), state(b)), " 0");
+  EXPECT_EQ((a.Copy(b), state(a)), " 0");
+  EXPECT_EQ((a.Add(e(1)), a.RemoveAll(), state(a)), " 0");
+  EXPECT_EQ(record_of(a).grow_by, 10) << "the step stays";
 }
 
 TYPED_TEST(AnyArray, GrowsByAnEighthButNeitherByFewNorByMany) {
-  const auto allocated_after_adding_one_to = [](int size) {
+  for (const auto& [size, room] :
+       {std::pair{0, 1}, {1, 5}, {39, 43}, {40, 45}, {100, 112}, {10000, 11024}}) {
     TypeParam array;
     array.SetSize(size);
-    array.Add(Element<TypeParam>::argument(1));
-    return record_of(array).allocated;
-  };
-  EXPECT_EQ(allocated_after_adding_one_to(0), 1);
-  EXPECT_EQ(allocated_after_adding_one_to(1), 5);
-  EXPECT_EQ(allocated_after_adding_one_to(39), 43);
-  EXPECT_EQ(allocated_after_adding_one_to(40), 45);
-  EXPECT_EQ(allocated_after_adding_one_to(100), 112);
-  EXPECT_EQ(allocated_after_adding_one_to(10000), 11024);
+    array.Add(element<TypeParam>(1));
+    EXPECT_EQ(record_of(array).allocated, room);
+  }
 }
 
 TYPED_TEST(AnyArray, ImpossibleRequestsChangeNothing) {
-  const auto element = Element<TypeParam>::argument(3);
-  TypeParam array;
-  array.Add(element);
-  array.Add(element);
-  array.SetSize(-1, 7);
-  array.SetSize(INT_MIN);
-  array.SetAtGrow(-1, element);
-  array.SetAtGrow(INT_MAX, element);
-  array.InsertAt(-1, element, 2);
-  array.InsertAt(1, element, -1);
-  array.InsertAt(1, element, INT_MAX);
-  array.InsertAt(INT_MAX, element, INT_MAX);
-  array.InsertAt(-1, &array);
-  array.InsertAt(0, static_cast<TypeParam*>(nullptr));
-  array.RemoveAt(-1, 2);
-  array.RemoveAt(1, 2);
-  array.RemoveAt(2, INT_MAX);
-  array.RemoveAt(1, -1);
-  expect_is(array, {3, 3}, 5);
-  EXPECT_EQ(record_of(array).grow_by, 0);
+  const auto e = element<TypeParam>(3);
+  TypeParam a;
+  a.Add(e);
+  a.Add(e);
+  a.SetSize(-1, 7);
+  a.SetSize(INT_MIN);
+  for (const int index : {-1, INT_MAX}) a.SetAtGrow(index, e);
+  for (const auto& [index, count] : {std::pair{-1, 2}, {1, -1}, {1, INT_MAX}, {INT_MAX, INT_MAX}})
+    a.InsertAt(index, e, count);
+  a.InsertAt(-1, &a);
+  a.InsertAt(0, static_cast<TypeParam*>(nullptr));
+  for (const auto& [index, count] : {std::pair{-1, 2}, {1, 2}, {2, INT_MAX}, {1, -1}})
+    a.RemoveAt(index, count);
+  EXPECT_EQ(state(a), "33 5");
+  EXPECT_EQ(record_of(a).grow_by, 0);
 }
 
 template <class Array>
@@ -185,45 +138,28 @@ using BlockArrays = testing::Types<ZCObArray, ZCStringArray>;
 TYPED_TEST_SUITE(BlockArray, BlockArrays);
 
 TYPED_TEST(BlockArray, MoveAndChangeMoveBlocksThatDoNotOverlap) {
-  const struct {
-    char operation;  // Move or Change
+  struct Case {
     int a, b, count;
     const char* elements;
-  } cases[] = {
-      {'M', 0, 3, 2, "45123"},
-      {'M', 5, 0, 2, "34512"},
-      {'M', 1, 4, 1, "15234"},
-      {'M', 4, 1, 2, "14235"},
-      {'M', 1, 3, 2, "14523"},
-      {'M', 1, 0, 2, "12345"},
-      {'M', 2, 0, 2, "12345"},
-      {'M', 0, 1, 2, "12345"},
-      {'M', 6, 0, 1, "12345"},
-      {'M', 0, 4, 2, "12345"},
-      {'M', -1, 1, 1, "12345"},
-      {'M', 3, -1, 1, "12345"},
-      {'M', 0, 1, -1, "12345"},
-      {'M', 3, INT_MAX, 7, "12345"},
-      {'C', 0, 3, 2, "45312"},
-      {'C', 3, 0, 2, "45312"},
-      {'C', 0, 2, 2, "34125"},
-      {'C', 1, 3, 1, "14325"},
-      {'C', 0, 1, 2, "12345"},
-      {'C', 0, 4, 2, "12345"},
-      {'C', -1, 3, 1, "12345"},
-      {'C', 0, 2, INT_MIN, "12345"},
-      {'C', 0, INT_MAX, INT_MAX, "12345"},
   };
-  for (const auto& c : cases) {
+  const auto expect = [](auto operation, const Case& c) {
     TypeParam array;
-    array.SetSize(5);
-    for (int n = 1; n <= 5; ++n) array.SetAt(n - 1, Element<TypeParam>::argument(n));
-    (array.*(c.operation == 'M' ? &TypeParam::Move : &TypeParam::Change))(c.a, c.b, c.count);
-    std::vector<int> elements;
-    for (const char digit : std::string(c.elements)) elements.push_back(digit - '0');
-    SCOPED_TRACE(testing::Message() << c.operation << c.a << ' ' << c.b << ' ' << c.count);
-    expect_is(array, elements, 5);
-  }
+    for (int n = 1; n <= 5; ++n) array.SetAtGrow(n - 1, element<TypeParam>(n));
+    array.FreeExtra();
+    (array.*operation)(c.a, c.b, c.count);
+    EXPECT_EQ(state(array), c.elements + std::string(" 5")) << c.a << ' ' << c.b << ' ' << c.count;
+  };
+  const char* const same = "12345";
+  const Case moves[] = {{0, 3, 2, "45123"}, {5, 0, 2, "34512"},   {1, 4, 1, "15234"},
+                        {4, 1, 2, "14235"}, {1, 3, 2, "14523"},   {1, 0, 2, same},
+                        {2, 0, 2, same},    {0, 1, 2, same},      {6, 0, 1, same},
+                        {0, 4, 2, same},    {-1, 1, 1, same},     {3, -1, 1, same},
+                        {0, 1, -1, same},   {3, INT_MAX, 7, same}};
+  for (const Case& c : moves) expect(&TypeParam::Move, c);
+  const Case changes[] = {{0, 3, 2, "45312"}, {3, 0, 2, "45312"},    {0, 2, 2, "34125"},
+                          {1, 3, 1, "14325"}, {0, 1, 2, same},       {0, 4, 2, same},
+                          {-1, 3, 1, same},   {0, 2, INT_MIN, same}, {0, INT_MAX, INT_MAX, same}};
+  for (const Case& c : changes) expect(&TypeParam::Change, c);
 }
 
 TEST(StringArray, TakesTextThatLiesInItself) {
@@ -235,12 +171,9 @@ TEST(StringArray, TakesTextThatLiesInItself) {
   for (int i = 0; i < 20; ++i) array.Add(array.ElementAt(1));
   array.InsertAt(0, array.ElementAt(1), 3);
   array.SetAtGrow(100, array.ElementAt(4));
-  EXPECT_EQ(array.GetAt(0), "two");
-  EXPECT_EQ(array.GetAt(2), "two");
-  EXPECT_EQ(array.GetAt(3), "wo");
-  EXPECT_EQ(array.GetAt(24), "two");
-  EXPECT_EQ(array.GetAt(99), "");
-  EXPECT_EQ(array.GetAt(100), "two");
+  for (const auto& [index, text] :
+       {std::pair{0, "two"}, {2, "two"}, {3, "wo"}, {24, "two"}, {99, ""}, {100, "two"}})
+    EXPECT_EQ(array.GetAt(index), text);
 }
 
 TEST(StringArray, CopiesBetweenArraysAndMovesKeepTheLanguage) {

@@ -5,30 +5,40 @@
 
 #include <ctime>
 #include <string>
+#include <utility>
 
-#include "tests/common/foundation/file_fixture.h"
+#include "tests/common/foundation/fixture.h"
 #include "tests/support/unprivileged.h"
 
 namespace {
+
+namespace fs = std::filesystem;
+using StatusTest = FileTest;
+using Times = std::pair<std::int32_t, std::int32_t>;  // of the last change and the last access
 
 void set_times(const std::string& name, std::time_t accessed, std::time_t modified) {
   const struct timespec times[] = {{accessed, 0}, {modified, 999'999'999}};
   ASSERT_EQ(utimensat(AT_FDCWD, name.c_str(), times, 0), 0);
 }
 
-using StatusTest = FileTest;
+Times times_of(const ZCFileStatus& status) {
+  return {status.modification_time.GetTime(), status.access_time.GetTime()};
+}
+
+ZCFileStatus status_of(const std::string& name) {
+  ZCFileStatus status;
+  EXPECT_EQ(ZCFile().GetStatus(name.c_str(), status), 1);
+  return status;
+}
 
 TEST_F(StatusTest, OpenAndNamedFileTellTheSameExceptTheNormalAttribute) {
-  const std::string name = file("a.txt", "12345");
+  const std::string name = write("a.txt", "12345");
   set_times(name, 1'000'000'000, 1'200'000'000);
-  ZCFile f(name.c_str(), 0);
   ZCFileStatus open_status;
-  ZCFileStatus named_status;
-  ASSERT_EQ(f.GetStatus(open_status), 1);
-  ASSERT_EQ(f.GetStatus(name.c_str(), named_status), 1);
+  ASSERT_EQ(ZCFile(name.c_str(), 0).GetStatus(open_status), 1);
+  const ZCFileStatus named_status = status_of(name);
   for (const ZCFileStatus& status : {open_status, named_status}) {
-    EXPECT_EQ(status.modification_time.GetTime(), 1'200'000'000);
-    EXPECT_EQ(status.access_time.GetTime(), 1'000'000'000);
+    EXPECT_EQ(times_of(status), Times(1'200'000'000, 1'000'000'000));
     EXPECT_EQ(status.size, 5U);
     EXPECT_EQ(status.full_name, name);
   }
@@ -36,143 +46,116 @@ TEST_F(StatusTest, OpenAndNamedFileTellTheSameExceptTheNormalAttribute) {
   EXPECT_NE(open_status.creation_time.GetTime(), 0);
   EXPECT_EQ(open_status.attribute, 0x80);
   EXPECT_EQ(named_status.attribute, 0);
-}
-
-TEST_F(StatusTest, MissingTimesAreReplacedAndLateOnesAreCut) {
-  ZCFileStatus status;
-  const std::string name = file("a", "");
-  set_times(name, 0, 5'000'000'000);
-  ASSERT_EQ(ZCFile().GetStatus(name.c_str(), status), 1);
-  EXPECT_EQ(status.modification_time.GetTime(), 0x7FFFFFFF);
-  EXPECT_EQ(status.access_time.GetTime(), 0x7FFFFFFF);
+  set_times(name, 0, 5'000'000'000);  // a missing time is replaced, a late one is cut
+  EXPECT_EQ(times_of(status_of(name)), Times(0x7FFFFFFF, 0x7FFFFFFF));
 }
 
 TEST_F(StatusTest, AttributesTellReadOnlyHiddenAndDirectory) {
-  const std::string name = file(".hidden", "");
-  ASSERT_EQ(chmod(name.c_str(), 0555), 0);
-  ZCFileStatus status;
-  ASSERT_EQ(ZCFile().GetStatus(name.c_str(), status), 1);
-  EXPECT_EQ(status.attribute, 0x03);
-  for (const char* const visible : {directory_.c_str(), ".", "..", "./"}) {
-    ASSERT_EQ(ZCFile().GetStatus(visible, status), 1);
-    EXPECT_EQ(status.attribute, 0x10) << visible;
-  }
-  std::filesystem::create_directory(path(".directory"));
-  ASSERT_EQ(ZCFile().GetStatus(path(".directory/").c_str(), status), 1);
-  EXPECT_EQ(status.attribute, 0x12);
+  ASSERT_EQ(chmod(write(".hidden", "").c_str(), 0555), 0);
+  fs::create_directory(file(".directory"));
+  for (const auto& [name, attribute] : {std::pair{file(".hidden"), 0x03},
+                                        {directory().string(), 0x10},
+                                        {".", 0x10},
+                                        {"..", 0x10},
+                                        {"./", 0x10},
+                                        {file(".directory/"), 0x12}})
+    EXPECT_EQ(status_of(name).attribute, attribute) << name;
 }
 
 TEST_F(StatusTest, WithoutAFileOnlyTheNameIsFilled) {
   ZCFile f;
   f.SetFilePath("some/where.txt");
   ZCFileStatus status;
-  status.size = 7;
-  status.creation_time = status.modification_time = status.access_time = 7;
-  status.attribute = 7;
+  const auto fill = [&] {
+    status.creation_time = status.modification_time = status.access_time = 7;
+    status.size = status.attribute = 7;
+  };
+  fill();
   EXPECT_EQ(f.GetStatus(status), 1);
   EXPECT_STREQ(status.full_name, "some/where.txt");
   EXPECT_EQ(status.size + status.attribute, 0U);
-  for (const ZCTime& time : {status.creation_time, status.modification_time, status.access_time})
-    EXPECT_EQ(time.GetTime(), 0);
-  EXPECT_EQ(f.IsEmpty(), 1);
-}
-
-TEST_F(StatusTest, FailedStatusOfANameTouchesOnlyTheName) {
-  ZCFileStatus status;
-  status.size = 7;
-  EXPECT_EQ(ZCFile().GetStatus(path("missing").c_str(), status), 0);
-  EXPECT_EQ(status.full_name, path("missing"));
-  EXPECT_EQ(ZCFile().GetStatus("", status), 0);
-  EXPECT_STREQ(status.full_name, "");
-  EXPECT_EQ(ZCFile().GetStatus(std::string(300, 'a').c_str(), status), 0);
-  EXPECT_STREQ(status.full_name, "");
+  EXPECT_EQ(status.creation_time.GetTime(), 0);
+  EXPECT_EQ(times_of(status), Times(0, 0));
+  fill();
+  for (const auto& [name, full] :
+       {std::pair{file("missing"), file("missing")}, {"", ""}, {std::string(300, 'a'), ""}}) {
+    EXPECT_EQ(ZCFile().GetStatus(name.c_str(), status), 0);
+    EXPECT_EQ(status.full_name, full);
+  }
   EXPECT_EQ(status.size, 7U);
 }
 
 TEST_F(StatusTest, FullPathsAreAbsoluteAndResolved) {
-  std::filesystem::create_directories(path("x/y"));
-  std::filesystem::create_directory_symlink(path("x/y"), path("link"));
-  const std::filesystem::path before = std::filesystem::current_path();
-  std::filesystem::current_path(path("x"));
-  const std::string root = directory_.string();
+  fs::create_directories(file("x/y"));
+  fs::create_directory_symlink(file("x/y"), file("link"));
+  const fs::path before = fs::current_path();
+  fs::current_path(file("x"));
+  const std::string longest = "/" + std::string(258, 'n');
   ZCFile f;
-  for (const auto& [name, full] : {std::pair<std::string, std::string>{"a", root + "/x/a"},
-                                   {"./y/..//../b.txt", root + "/b.txt"},
-                                   {"../link/../a", root + "/link/../a"},  // which is x/a
-                                   {"y/", root + "/x/y/"},
+  for (const auto& [name, full] : {std::pair<std::string, std::string>{"a", file("x/a")},
+                                   {"./y/..//../b.txt", file("b.txt")},
+                                   {"../link/../a", file("link/../a")},  // which is x/a
+                                   {"y/", file("x/y/")},
                                    {"/../..", "/"},
                                    {std::string(300, 'n'), std::string(259, 'n')},
-                                   {"", ""}}) {
+                                   {"", ""},
+                                   {longest, longest}}) {
     EXPECT_EQ(f.Open(name.c_str(), 0), 0);
     EXPECT_EQ(text(f.GetFilePath()), full) << name;
   }
-  std::filesystem::current_path(before);
-  const std::string longest = "/" + std::string(258, 'n');
-  f.Open(longest.c_str(), 0);
-  EXPECT_EQ(text(f.GetFilePath()), longest);
   EXPECT_EQ(f.GetFileName().GetLength(), 256);
+  fs::current_path(before);
 }
 
 TEST_F(StatusTest, NamesAndExtensionsAreTakenFromPaths) {
   ZCFile f;
-  for (const auto& [path, name] : {std::pair{"/a/b.txt", "b.txt"},
-                                   {"a\\b", "b"},
-                                   {"c:d.e", "d.e"},
-                                   {"plain", "plain"},
-                                   {"dir/", ""}}) {
+  const std::pair<const char*, const char*> names[] = {
+      {"/a/b.txt", "b.txt"}, {"a\\b", "b"}, {"c:d.e", "d.e"}, {"plain", "plain"}, {"dir/", ""}};
+  for (const auto& [path, name] : names) {
     f.SetFilePath(path);
     EXPECT_EQ(text(f.GetFileName()), name);
     EXPECT_EQ(text(f.GetFileTitle()), name);
   }
-  for (const auto& [name, extension] :
-       {std::pair{"a.b.txt", ".txt"}, {"none", ""}, {"", ""}, {"a.b/c", ".b/c"}, {"end.", "."}})
-    EXPECT_EQ(text(f.GetExt(name)), extension);
-  EXPECT_EQ(text(f.GetExt(nullptr)), "");
+  const std::pair<const char*, const char*> extensions[] = {
+      {"a.b.txt", ".txt"}, {"none", ""}, {"", ""}, {"a.b/c", ".b/c"}, {"end.", "."}, {nullptr, ""}};
+  for (const auto& [name, extension] : extensions) EXPECT_EQ(text(f.GetExt(name)), extension);
 }
 
 TEST_F(StatusTest, SetStatusSetsTimesOnlyWithAModificationTime) {
-  const std::string name = file("a", "");
+  const std::string name = write("a", "");
   set_times(name, 100, 200);
-  ZCFileStatus status;
-  const auto set = [&](std::int32_t modified, std::int32_t accessed) {
+  const auto times_after = [&](Times set) {
+    ZCFileStatus status;
     status.attribute = 0;
     status.creation_time = 12345;
-    status.modification_time = modified;
-    status.access_time = accessed;
+    status.modification_time = set.first;
+    status.access_time = set.second;
     ZCFile::SetStatus(name.c_str(), status);
-    EXPECT_EQ(ZCFile().GetStatus(name.c_str(), status), 1);
+    return times_of(status_of(name));
   };
-  set(0, 300);
-  EXPECT_EQ(status.modification_time.GetTime(), 200);
-  EXPECT_EQ(status.access_time.GetTime(), 100);
-  set(400, 0);
-  EXPECT_EQ(status.modification_time.GetTime(), 400);
-  EXPECT_EQ(status.access_time.GetTime(), 100);
-  set(-500, 600);
-  EXPECT_EQ(status.modification_time.GetTime(), -500);
-  EXPECT_EQ(status.access_time.GetTime(), 600);
+  EXPECT_EQ(times_after({0, 300}), Times(200, 100));
+  EXPECT_EQ(times_after({400, 0}), Times(400, 100));
+  EXPECT_EQ(times_after({-500, 600}), Times(-500, 600));
   const ZCFile held(name.c_str(), 0);
-  set(700, 700);
-  EXPECT_EQ(status.modification_time.GetTime(), -500) << "the file is in use";
+  EXPECT_EQ(times_after({700, 700}), Times(-500, 600)) << "the file is in use";
 }
 
 TEST_F(StatusTest, SetStatusOrdersAttributeAndTimes) {
-  const std::string name = file("a", "");
+  const std::string name = write("a", "");
   ASSERT_EQ(chmod(name.c_str(), 0664), 0);
   ZCFileStatus status;
-  struct Case {
+  status.access_time = status.creation_time = 0;
+  const struct {
     std::uint8_t attribute;
-    std::int32_t time;
-    std::int32_t time_after;
+    std::int32_t time, time_after;
     unsigned mode_after;
-  };
-  // Times reach a file that becomes read-only or stops being it, not one that stays read-only.
-  for (const Case& c : {Case{0x01, 1000, 1000, 0444}, Case{0x01, 2000, 1000, 0444},
-                        Case{0x00, 3000, 3000, 0644}, Case{0x20, 0, 3000, 0644}}) {
+  } cases[] = {{0x01, 1000, 1000, 0444},  // times reach a file that becomes read-only
+               {0x01, 2000, 1000, 0444},  // or stops being it, not one that stays so
+               {0x00, 3000, 3000, 0644},
+               {0x20, 0, 3000, 0644}};
+  for (const auto& c : cases) {
     status.attribute = c.attribute;
     status.modification_time = c.time;
-    status.access_time = 0;
-    status.creation_time = 0;
     ZCFile::SetStatus(name.c_str(), status);
     struct stat found;
     ASSERT_EQ(stat(name.c_str(), &found), 0);
@@ -180,119 +163,94 @@ TEST_F(StatusTest, SetStatusOrdersAttributeAndTimes) {
     EXPECT_EQ(found.st_mode & 0777U, c.mode_after);
   }
   status.attribute = 0x01;
-  ZCFile::SetStatus(directory_.c_str(), status);
-  EXPECT_NE(ZCFile(path("new").c_str(), 0x1001), -1) << "directories keep their permissions";
+  ZCFile::SetStatus(directory().c_str(), status);
+  EXPECT_NE(ZCFile(file("new").c_str(), 0x1001), -1) << "directories keep their permissions";
 }
 
 TEST_F(StatusTest, CopyReplacesTheTargetWithContentsPermissionsAndTime) {
   const std::string big(200'000, 'x');
-  const std::string from = file("from", big);
+  const std::string from = write("from", big);
   set_times(from, 1, 1'000'000'000);
   ASSERT_EQ(chmod(from.c_str(), 0444), 0);
-  const std::string to = file("to", "older and longer");
-  std::filesystem::create_symlink(to, path("link"));
-  ASSERT_EQ(ZCFile::Copy(from.c_str(), path("link").c_str()), 1);
-  EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
-  EXPECT_EQ(contents(to), big);
+  fs::create_symlink(write("to", "older and longer"), file("link"));
+  ASSERT_EQ(chmod(write("open", "old").c_str(), 0666), 0);
+  const auto copy_to = [&](const char* name) {
+    EXPECT_EQ(ZCFile::Copy(from.c_str(), file(name).c_str()), 1);
+    EXPECT_EQ(read(name), big);
+  };
+  copy_to("link");
+  copy_to("new");
+  EXPECT_TRUE(fs::is_symlink(file("link")));
   struct stat status;
-  ASSERT_EQ(stat(to.c_str(), &status), 0);
+  ASSERT_EQ(stat(file("to").c_str(), &status), 0);
   EXPECT_EQ(status.st_mtime, 1'000'000'000);
   EXPECT_EQ(status.st_mode & 0777U, 0444U);
-  EXPECT_EQ(ZCFile::Copy(from.c_str(), path("new").c_str()), 1);
-  EXPECT_EQ(contents(path("new")), big);
   // In place, where the directory takes no new file.
-  ASSERT_EQ(chmod(file("open", "old").c_str(), 0666) + chmod(directory_.c_str(), 0555), 0);
+  ASSERT_EQ(chmod(directory().c_str(), 0555), 0);
   const kz::test::Unprivileged rights;
-  EXPECT_EQ(ZCFile::Copy(from.c_str(), path("open").c_str()), 1);
-  EXPECT_EQ(contents(path("open")), big);
+  copy_to("open");
 }
 
 TEST_F(StatusTest, FailedCopyLeavesTheTargetAndNothingElse) {
-  const std::string from = file("from", "new");
-  const std::string held = file("held", "old");
-  const std::string read_only = file("read-only", "old");
+  const std::string from = write("from", "new"), held = write("held", "old");
+  const std::string read_only = write("read-only", "old");
   ASSERT_EQ(chmod(read_only.c_str(), 0400), 0);
-  std::filesystem::create_hard_link(from, path("same"));
+  fs::create_hard_link(from, file("same"));
   const ZCFile holder(held.c_str(), 0x40);
   for (const std::string& to :
-       {from, path("same"), held, read_only, directory_.string(), path("no/such/place")})
+       {from, file("same"), held, read_only, directory().string(), file("no/such/place")})
     EXPECT_EQ(ZCFile::Copy(from.c_str(), to.c_str()), 0) << to;
-  EXPECT_EQ(ZCFile::Copy(path("missing").c_str(), path("x").c_str()), 0);
-  EXPECT_EQ(ZCFile::Copy("/dev/null", path("x").c_str()), 0);
-  EXPECT_EQ(contents(from), "new");
-  EXPECT_EQ(contents(held), "old");
-  EXPECT_EQ(contents(read_only), "old");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory_), {}), 4);
+  EXPECT_EQ(ZCFile::Copy(file("missing").c_str(), file("x").c_str()), 0);
+  EXPECT_EQ(ZCFile::Copy("/dev/null", file("x").c_str()), 0);
+  EXPECT_EQ(read("from") + read("held") + read("read-only"), "newoldold");
+  EXPECT_EQ(std::distance(fs::directory_iterator(directory()), {}), 4);
 }
 
-TEST_F(StatusTest, RenameNeverReplaces) {
-  const std::string a = file("a", "a");
-  const std::string b = file("b", "b");
-  EXPECT_EQ(ZCFile::Rename(a.c_str(), b.c_str()), 0);
-  EXPECT_EQ(contents(a) + contents(b), "ab");
-  EXPECT_EQ(ZCFile::Rename(a.c_str(), path("c").c_str()), 1);
-  EXPECT_EQ(contents(path("c")), "a");
-  EXPECT_FALSE(std::filesystem::exists(a));
-  EXPECT_EQ(ZCFile::Rename(a.c_str(), path("d").c_str()), 0);
-}
-
-TEST_F(StatusTest, RenameMovesBetweenFileSystems) {
-  struct stat here;
-  struct stat there;
-  ASSERT_EQ(stat(directory_.c_str(), &here), 0);
-  if (stat("/dev/shm", &there) != 0 || here.st_dev == there.st_dev || access("/dev/shm", W_OK) != 0)
-    GTEST_SKIP() << "one file system";
-  const std::string a = file("a", "a");
-  const std::string target = "/dev/shm/kz-rename-" + std::to_string(getpid());
-  EXPECT_EQ(ZCFile::Rename(a.c_str(), target.c_str()), 1);
-  EXPECT_EQ(contents(target), "a");
-  EXPECT_FALSE(std::filesystem::exists(a));
-  const std::string b = file("b", "b");
-  EXPECT_EQ(ZCFile::Rename(b.c_str(), target.c_str()), 0);
-  EXPECT_EQ(contents(target) + contents(b), "ab");
-  std::filesystem::remove(target);
+TEST_F(StatusTest, RenameMovesAlsoBetweenFileSystemsAndNeverReplaces) {
+  const std::string a = file("a"), b = write("b", "b");
+  for (const std::string& target : {file("c"), "/dev/shm/kz-rename-" + std::to_string(getpid())}) {
+    if (access(fs::path(target).parent_path().c_str(), W_OK) != 0) continue;
+    write("a", "a");
+    EXPECT_EQ(ZCFile::Rename(a.c_str(), target.c_str()), 1);
+    EXPECT_FALSE(fs::exists(a));
+    EXPECT_EQ(ZCFile::Rename(a.c_str(), file("d").c_str()), 0);
+    EXPECT_EQ(ZCFile::Rename(b.c_str(), target.c_str()), 0);
+    EXPECT_EQ(read(target) + read("b"), "ab");
+    fs::remove(target);
+  }
 }
 
 TEST_F(StatusTest, RemoveTakesFilesOnly) {
-  EXPECT_EQ(ZCFile::Remove(file("a", "").c_str()), 1);
-  EXPECT_EQ(ZCFile::Remove(path("a").c_str()), 0);
-  std::filesystem::create_directory(path("empty"));
-  EXPECT_EQ(ZCFile::Remove(path("empty").c_str()), 0);
-  EXPECT_TRUE(std::filesystem::exists(path("empty")));
+  EXPECT_EQ(ZCFile::Remove(write("a", "").c_str()), 1);
+  EXPECT_EQ(ZCFile::Remove(file("a").c_str()), 0);
+  EXPECT_EQ(ZCFile::Remove(directory().c_str()), 0);
+  EXPECT_TRUE(fs::exists(directory()));
 }
 
 TEST_F(StatusTest, EmptinessFollowsTheSize) {
-  ZCFile f(file("a", "").c_str(), 0x42);
+  ZCFile f(write("a", "").c_str(), 0x42);
   EXPECT_EQ(f.IsEmpty(), 1);
   f.WriteString("x");
-  EXPECT_EQ(f.IsEmpty(), 0);
-  EXPECT_EQ(f.IsEmpty(path("a").c_str()), 0);
-  EXPECT_EQ(f.IsEmpty(path("missing").c_str()), 1);
+  EXPECT_EQ(f.IsEmpty() + f.IsEmpty(file("a").c_str()), 0);
+  EXPECT_EQ(f.IsEmpty(file("missing").c_str()), 1);
+  EXPECT_EQ(ZCFile().IsEmpty(), 1);
 }
 
-TEST_F(StatusTest, MakeTempGoesThroughItsNames) {
-  const auto made = [&] {
-    std::string name = path("tXXXXXX");
-    return ZCFile().MakeTemp(name.data()) == name.data() ? name : "";
+TEST_F(StatusTest, MakeTempWantsExactlySixXAndGoesThroughItsNames) {
+  const auto made = [&](std::string name) {
+    return ZCFile().MakeTemp(name.data()) != nullptr ? name : "none, " + name;
   };
-  EXPECT_EQ(made(), path("t000001"));
-  file("t000001", "");
-  EXPECT_EQ(made(), path("ta00001"));
-  for (char letter = 'a'; letter <= 'z'; ++letter) file(std::string("t") + letter + "00001", "");
-  EXPECT_EQ(made(), "");
-  std::filesystem::remove(path("tq00001"));
-  EXPECT_EQ(made(), path("tq00001"));
-}
-
-TEST_F(StatusTest, MakeTempWantsExactlySixX) {
-  for (const auto& [pattern, left] : {std::pair<std::string, std::string>{"aXXXXX", "a00001"},
-                                      {"XXXXXXX", "0000001"},
-                                      {"XXXXXXa", "XXXXXXa"},
-                                      {"", ""}}) {
-    std::string name = pattern;
-    EXPECT_EQ(ZCFile().MakeTemp(name.data()), nullptr);
-    EXPECT_EQ(name, left);
-  }
+  EXPECT_EQ(made(file("tXXXXXX")), file("t000001"));
+  write("t000001", "");
+  EXPECT_EQ(made(file("tXXXXXX")), file("ta00001"));
+  for (char letter = 'a'; letter <= 'z'; ++letter) write(std::string("t") + letter + "00001", "");
+  EXPECT_TRUE(made(file("tXXXXXX")).starts_with("none"));
+  fs::remove(file("tq00001"));
+  EXPECT_EQ(made(file("tXXXXXX")), file("tq00001"));
+  EXPECT_EQ(made("aXXXXX"), "none, a00001");
+  EXPECT_EQ(made("XXXXXXX"), "none, 0000001");
+  EXPECT_EQ(made("XXXXXXa"), "none, XXXXXXa");
+  EXPECT_EQ(made(""), "none, ");
 }
 
 }  // namespace

@@ -53,15 +53,18 @@ TEST(StringFormat, EveryConversionFormatsAsSnprintf) {
             expect_as_snprintf(format.c_str(), number, 7, "tail");
           }
         }
-        expect_as_snprintf((item + "s>%s").c_str(), "word", "tail");
-        expect_as_snprintf((item + "lld>%s").c_str(), INT64_C(1) << 60, "tail");
-        expect_as_snprintf((item + "ld>%s").c_str(), 1L, "tail");
-        expect_as_snprintf((item + "zu>%s").c_str(), std::size_t{4}, "tail");
-        expect_as_snprintf((item + "jd>%s").c_str(), std::intmax_t{-5}, "tail");
-        expect_as_snprintf((item + "td>%s").c_str(), std::ptrdiff_t{-5}, "tail");
-        expect_as_snprintf((item + "Lf>%s").c_str(), 2.5L, "tail");
-        expect_as_snprintf((item + "p>%s").c_str(), static_cast<const void*>("x"), "tail");
-        expect_as_snprintf((item + "ls>%s").c_str(), L"wide", "tail");
+        const auto expect = [&item](const char* conversion, auto argument) {
+          expect_as_snprintf((item + conversion + ">%s").c_str(), argument, "tail");
+        };
+        expect("s", "word");
+        expect("lld", INT64_C(1) << 60);
+        expect("ld", 1L);
+        expect("zu", std::size_t{4});
+        expect("jd", std::intmax_t{-5});
+        expect("td", std::ptrdiff_t{-5});
+        expect("Lf", 2.5L);
+        expect("p", static_cast<const void*>("x"));
+        expect("ls", L"wide");
       }
     }
   }
@@ -73,42 +76,22 @@ TEST(StringFormat, EveryConversionFormatsAsSnprintf) {
 
 TEST(StringFormat, RoomFollowsTheEstimate) {
   const char* const null = nullptr;
-  const char* const unterminated = "abcdef";
-  struct {
-    int room;
-    int expected;
-  } const cases[] = {
-      {room("%s", null), 6},
-      {room("%5.2f", 1.0), 128},
-      {room("%100.50e", 1.0), 150},
-      {room("%d", 1), 32},
-      {room("%40d", 1), 40},
-      {room("%20.15x", 1U), 35},
-      {room("%#x", 1U), 34},
-      {room("%p", null), 32},
-      {room("%hd", 1), 32},
-      {room("%c", 'x'), 2},
-      {room("%-*c", 7, 'x'), 7},
-      {room("%.1c", 'x'), 1},
-      {room("%s", "abcdef"), 6},
-      {room("%.2s", "abcdef"), 2},
-      {room("%9.2s", "abcdef"), 9},
-      {room("%s", ""), 1},
-      {room("%.*s", 3, unterminated), 3},
-      {room("abc"), 3 + 2 + 1},
-      {room("%%"), 1},
-      {room("x%d", 1), 3 + 32},
-      {room("%s%s", "ab", null), 8},
-      {room("%ls", L"wide"), 4},
-      {room(""), 0},
-      {room("%f", 1e300), 308},
-      {room(std::string(100, 'x').c_str()), 5050},
-      {room(std::string(5000, 'x').c_str()), 1 << 16},
-      {room(std::string(100000, 'x').c_str()), 100000},
-  };
-  for (std::size_t i = 0; i < std::size(cases); ++i) {
-    EXPECT_EQ(cases[i].room, cases[i].expected) << "case " << i;
-  }
+  const auto filler = [](std::size_t size) { return room(std::string(size, 'x').c_str()); };
+  using Rooms = std::vector<int>;
+  EXPECT_EQ((Rooms{room("%s", null), room("%s%s", "ab", null), room("%p", null)}),
+            (Rooms{6, 8, 32}));
+  EXPECT_EQ((Rooms{room("%5.2f", 1.0), room("%100.50e", 1.0), room("%f", 1e300)}),
+            (Rooms{128, 150, 308}));
+  EXPECT_EQ((Rooms{room("%d", 1), room("%40d", 1), room("x%d", 1), room("%hd", 1)}),
+            (Rooms{32, 40, 3 + 32, 32}));
+  EXPECT_EQ((Rooms{room("%20.15x", 1U), room("%#x", 1U)}), (Rooms{35, 34}));
+  EXPECT_EQ((Rooms{room("%c", 'x'), room("%-*c", 7, 'x'), room("%.1c", 'x')}), (Rooms{2, 7, 1}));
+  EXPECT_EQ((Rooms{room("%s", ""), room("%s", "abcdef"), room("%.2s", "abcdef")}),
+            (Rooms{1, 6, 2}));
+  EXPECT_EQ((Rooms{room("%9.2s", "abcdef"), room("%.*s", 3, "abcdef"), room("%ls", L"wide")}),
+            (Rooms{9, 3, 4}));
+  EXPECT_EQ((Rooms{room("abc"), room("%%"), room("")}), (Rooms{3 + 2 + 1, 1, 0}));
+  EXPECT_EQ((Rooms{filler(100), filler(5000), filler(100000)}), (Rooms{5050, 1 << 16, 100000}));
 }
 
 TEST(StringFormat, ArgumentsMayComeFromTheStringItself) {
@@ -118,27 +101,22 @@ TEST(StringFormat, ArgumentsMayComeFromTheStringItself) {
     text.GetBuffer(5000);
     text.SetLanguage(1033);
     text.Format("<%s%s>", static_cast<const char*>(text), static_cast<const char*>(text));
-    EXPECT_EQ(std::string(text), std::string("<").append(word).append(word).append(">"));
+    EXPECT_EQ(std::string(text), '<' + word + word + '>');
     EXPECT_EQ(text.GetLanguage(), 1033) << "the buffer was kept";
-    ZCString format("%d %%");
-    const char* const own_text = format;
-    format.Format(own_text, 5);
-    EXPECT_STREQ(format, "5 %");
   }
+  ZCString format("%d %%");
+  format.Format(static_cast<const char*>(format), 5);
+  EXPECT_STREQ(format, "5 %");
 }
 
 TEST(StringFormat, TheTextEndsAtItsFirstNulAndAtWhatCannotBeFormatted) {
   ZCString text("before");
   const ZCString sharer(text);
-  text.Format("ab%cde", 0);
-  EXPECT_EQ(text.GetLength(), 2);
+  EXPECT_EQ((text.Format("ab%cde", 0), text.GetLength()), 2);
   EXPECT_STREQ(sharer, "before");
-  text.Format("ab%lc", static_cast<wint_t>(0x110000));  // no character
-  EXPECT_EQ(text.GetLength(), 0);
+  EXPECT_EQ((text.Format("ab%lc", static_cast<wint_t>(0x110000)), text.GetLength()), 0);
   text = "before";
-  const char* const null = nullptr;
-  text.Format(null);
-  EXPECT_EQ(text.GetLength(), 0);
+  EXPECT_EQ((text.Format(static_cast<const char*>(nullptr)), text.GetLength()), 0);
 }
 
 TEST(StringFormat, FollowsNoLocaleOfTheProcess) {
@@ -147,8 +125,8 @@ TEST(StringFormat, FollowsNoLocaleOfTheProcess) {
   ASSERT_EQ(std::system((make + place.file("de_DE")).c_str()), 0);
   setenv("LOCPATH", place.file("").c_str(), 1);
   const char* const set = std::setlocale(LC_ALL, "de_DE");
-  const std::string before = std::to_string(1.5);
   ZCString number;
+  const std::string before = std::to_string(1.5);
   number.Format("%.1f", 1.5);
   const ZCString day = ZCTime(0).FormatGmt("%A");
   const std::string after = std::to_string(1.5);
