@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -14,150 +13,114 @@ namespace {
 
 using namespace kz_test;
 
-bool in(int c, int first, int last) { return c >= first && c <= last; }
-bool one_of(int c, std::string_view hex) { return std::ranges::count(codes(hex), c) != 0; }
+using Function = int16_t (*)(int);
+using CaseFunction = int (*)(int);
+using TextFunction = char* (*)(char*);
 
-bool digit(int c) { return in(c, '0', '9'); }
-bool latin_upper(int c) { return in(c, 'A', 'Z'); }
-bool latin_lower(int c) { return in(c, 'a', 'z'); }
-bool latin(int c) { return latin_upper(c) || latin_lower(c); }
-bool ru_ansi_upper(int c) { return in(c, 192, 223) || c == 168; }
-bool ru_ansi_lower(int c) { return in(c, 224, 255) || c == 184; }
-bool ru_ansi(int c) { return ru_ansi_upper(c) || ru_ansi_lower(c); }
-bool ru_oem_upper(int c) { return in(c, 128, 159) || c == 240; }
-bool ru_oem_lower(int c) { return in(c, 160, 175) || in(c, 224, 239) || c == 241; }
-bool ru_oem(int c) { return in(c, 128, 175) || in(c, 224, 241); }
-bool ansi_upper(int c) { return latin_upper(c) || one_of(c, western_upper_1252); }
-bool ansi_lower(int c) { return latin_lower(c) || one_of(c, western_lower_1252); }
-bool oem_upper(int c) { return latin_upper(c) || one_of(c, western_upper_850); }
-bool oem_lower(int c) { return latin_lower(c) || one_of(c, western_lower_850); }
+bool one_of(int c, std::string_view letters) {
+  return letters.find(static_cast<char>(c)) != letters.npos;
+}
 
-using ClassTest = int16_t (*)(int);
-using Rule = bool (*)(int);
+std::string range(int first, int last) {
+  std::string letters;
+  for (int c = first; c <= last; ++c) letters += static_cast<char>(c);
+  return letters;
+}
+
+const std::string digits = "0123456789", latin_upper = range('A', 'Z'),
+                  latin_lower = range('a', 'z');
+const std::string latin = latin_upper + latin_lower;
+const std::string ru_ansi_upper = range(192, 223) + '\xA8',
+                  ru_ansi_lower = range(224, 255) + '\xB8';
+const std::string ru_oem_upper = range(128, 159) + '\xF0';
+const std::string ru_oem_lower = range(160, 175) + range(224, 239) + '\xF1';
+// Windows-1252 has more pairs than letters of the languages.
+const std::string western_upper = range(192, 214) + range(216, 222) + "\x9F\x8A\x8C";
+const std::string western_lower = range(224, 246) + range(248, 254) + "\xFF\x9A\x9C";
 
 const struct Family {
   const char* name;
-  ClassTest upper, lower, alpha, alnum;
-  Rule is_upper, is_lower;
+  Function upper, lower, alpha, alnum;
+  std::string upper_letters, lower_letters;
+  CaseFunction to_upper, to_lower;
+  TextFunction text_to_upper, text_to_lower;
+  std::string upper_partners, lower_partners;
 } families[] = {
-    {"ascii", _isupper, _islower, _isalpha, _isalnum, latin_upper, latin_lower},
+    {"ascii", _isupper, _islower, _isalpha, _isalnum, latin_upper, latin_lower, __toupper,
+     __tolower, __strupr, __strlwr, latin_upper, latin_lower},
     {"ru ansi", isruansiupper, isruansilower, isruansialpha, isruansialnum, ru_ansi_upper,
-     ru_ansi_lower},
-    {"ru oem", isruoemupper, isruoemlower, isruoemalpha, isruoemalnum, ru_oem_upper, ru_oem_lower},
-    {"ansi", isansiupper, isansilower, isansialpha, isansialnum, ansi_upper, ansi_lower},
-    {"oem", isoemupper, isoemlower, isoemalpha, isoemalnum, oem_upper, oem_lower},
-};
+     ru_ansi_lower, toruansiupper, toruansilower, strruansiupr, strruansilwr,
+     latin_upper + ru_ansi_upper, latin_lower + ru_ansi_lower},
+    {"ru oem", isruoemupper, isruoemlower, isruoemalpha, isruoemalnum, ru_oem_upper, ru_oem_lower,
+     toruoemupper, toruoemlower, strruoemupr, strruoemlwr, ru_oem_upper, ru_oem_lower},
+    {"ansi", isansiupper, isansilower, isansialpha, isansialnum,
+     latin_upper + bytes(western_upper_1252), latin_lower + bytes(western_lower_1252), toansiupper,
+     toansilower, stransiupr, stransilwr, latin_upper + western_upper, latin_lower + western_lower},
+    {"oem", isoemupper, isoemlower, isoemalpha, isoemalnum, latin_upper + bytes(western_upper_850),
+     latin_lower + bytes(western_lower_850), tooemupper, tooemlower, stroemupr, stroemlwr,
+     latin_upper + bytes(western_upper_850), latin_lower + bytes(western_lower_850)}};
+
+std::string all_but(std::string_view letters) {
+  std::string others = range(0, 255);
+  std::erase_if(others, [&](char c) { return one_of(c, letters); });
+  return others;
+}
 
 const struct Class {
   const char* name;
-  ClassTest function;
-  Rule rule;
+  Function function;
+  std::string characters;
 } classes[] = {
-    {"_isdigit", _isdigit, digit},
-    {"_isxdigit", _isxdigit, [](int c) { return digit(c) || in(c, 'a', 'f') || in(c, 'A', 'F'); }},
-    {"_isspace", _isspace, [](int c) { return in(c, 9, 13) || c == 32; }},
-    {"_iscntrl", _iscntrl, [](int c) { return c < 32 || c == 127; }},
-    {"IsSourcePunct", IsSourcePunct, [](int c) { return !latin(c) && !digit(c) && !ru_ansi(c); }},
-    {"IsSourceComma", IsSourceComma, [](int c) { return one_of(c, "2c82"); }},
-    {"IsSourceDash", IsSourceDash, [](int c) { return one_of(c, "2d1e9697ad"); }},
-    {"IsSourceApostrophe", IsSourceApostrophe, [](int c) { return one_of(c, "27609192b4"); }},
-    {"IsSourceQmark", IsSourceQmark, [](int c) { return one_of(c, "22849394abbb"); }},
-};
+    {"_isdigit", _isdigit, digits},
+    {"_isxdigit", _isxdigit, digits + "abcdefABCDEF"},
+    {"_isspace", _isspace, "\t\n\v\f\r "},
+    {"_iscntrl", _iscntrl, range(0, 31) + '\x7F'},
+    {"IsSourcePunct", IsSourcePunct, all_but(latin + digits + ru_ansi_upper + ru_ansi_lower)},
+    {"IsSourceComma", IsSourceComma, bytes("2c82")},
+    {"IsSourceDash", IsSourceDash, bytes("2d1e9697ad")},
+    {"IsSourceApostrophe", IsSourceApostrophe, bytes("27609192b4")},
+    {"IsSourceQmark", IsSourceQmark, bytes("22849394abbb")}};
 
-void expect_class(const std::string& name, ClassTest function, int c, bool wanted) {
+void expect_class(const std::string& name, Function function, int c, bool wanted) {
   for (const int code : {c, c - 256, c + 512}) EXPECT_EQ(function(code), wanted) << name << code;
 }
 
 TEST(CharClass, EveryClassHoldsExactlyItsCharacters) {
   for (int c = 0; c < 256; ++c) {
-    for (const Class& test : classes) expect_class(test.name, test.function, c, test.rule(c));
+    for (const Class& test : classes)
+      expect_class(test.name, test.function, c, one_of(c, test.characters));
     for (const Family& family : families) {
-      const bool upper = family.is_upper(c), lower = family.is_lower(c);
+      const bool upper = one_of(c, family.upper_letters), lower = one_of(c, family.lower_letters);
       expect_class(family.name, family.upper, c, upper);
       expect_class(family.name, family.lower, c, lower);
       expect_class(family.name, family.alpha, c, upper || lower);
-      expect_class(family.name, family.alnum, c, upper || lower || digit(c));
+      expect_class(family.name, family.alnum, c, upper || lower || one_of(c, digits));
     }
   }
 }
 
-int latin_to_upper(int c) { return latin_lower(c) ? c - 32 : c; }
-int latin_to_lower(int c) { return latin_upper(c) ? c + 32 : c; }
-
-// The partner of c in a list of letters, c itself when the list lacks it.
-int partner(int c, std::string_view from, std::string_view to) {
-  const std::vector<int> letters = codes(from);
-  const auto found = std::ranges::find(letters, c);
-  return found == letters.end() ? c : codes(to)[static_cast<std::size_t>(found - letters.begin())];
-}
-
-struct CaseFunction {
-  const char* name;
-  int (*function)(int);
-  char* (*text)(char*);
-  int (*rule)(int);
-};
-
-const CaseFunction case_functions[] = {
-    {"__toupper", __toupper, __strupr, latin_to_upper},
-    {"__tolower", __tolower, __strlwr, latin_to_lower},
-    {"toruansiupper", toruansiupper, strruansiupr,
-     [](int c) {
-       if (c == 184) return 168;
-       return in(c, 224, 255) ? c - 32 : latin_to_upper(c);
-     }},
-    {"toruansilower", toruansilower, strruansilwr,
-     [](int c) {
-       if (c == 168) return 184;
-       return in(c, 192, 223) ? c + 32 : latin_to_lower(c);
-     }},
-    {"toruoemupper", toruoemupper, strruoemupr,
-     [](int c) {
-       if (c == 241) return 240;
-       return in(c, 160, 175) ? c - 32 : in(c, 224, 239) ? c - 80 : c;
-     }},
-    {"toruoemlower", toruoemlower, strruoemlwr,
-     [](int c) {
-       if (c == 240) return 241;
-       return in(c, 128, 143) ? c + 32 : in(c, 144, 159) ? c + 80 : c;
-     }},
-    {"toansiupper", toansiupper, stransiupr,
-     [](int c) {
-       if (in(c, 224, 254) && c != 247) return c - 32;
-       return c == 255 ? 159 : c == 154 ? 138 : c == 156 ? 140 : latin_to_upper(c);
-     }},
-    {"toansilower", toansilower, stransilwr,
-     [](int c) {
-       if (in(c, 192, 222) && c != 215) return c + 32;
-       return c == 159 ? 255 : c == 138 ? 154 : c == 140 ? 156 : latin_to_lower(c);
-     }},
-    {"tooemupper", tooemupper, stroemupr,
-     [](int c) { return partner(latin_to_upper(c), western_lower_850, western_upper_850); }},
-    {"tooemlower", tooemlower, stroemlwr,
-     [](int c) { return partner(latin_to_lower(c), western_upper_850, western_lower_850); }},
-};
-
-TEST(CharCase, EveryCodeIsMappedByTheRule) {
-  for (const CaseFunction& test : case_functions) {
-    for (int c = 0; c < 256; ++c) {
-      EXPECT_EQ(test.function(c), test.rule(c)) << test.name << ' ' << c;
-      EXPECT_EQ(test.function(c - 256), test.rule(c)) << test.name << ' ' << c - 256;
-    }
-  }
-}
-
-TEST(CharCase, TextsOfAnyLengthChangeInPlaceUpToTheirZero) {
+TEST(CharCase, LettersHaveTheirPartnerAndTextsChangeInPlaceUpToTheirZero) {
   GuardedMemory memory(32768);
-  for (const CaseFunction& test : case_functions) {
+  const auto expect = [&memory](CaseFunction function, TextFunction change, std::string_view from,
+                                std::string_view to) {
+    for (int c = 0; c < 256; ++c) {
+      const int wanted = partner(c, from, to);
+      EXPECT_TRUE(function(c) == wanted && function(c - 256) == wanted) << c;
+    }
     for (const std::size_t size : interesting_sizes()) {
       const std::string text = random_text(size, static_cast<unsigned>(size) + 7);
       std::string wanted = text;
-      for (char& c : wanted) c = static_cast<char>(test.function(c));
+      for (char& c : wanted) c = static_cast<char>(function(c));
       char* in_place = memory.text(text);
-      ASSERT_EQ(test.text(in_place), in_place);
-      ASSERT_STREQ(in_place, wanted.c_str()) << test.name << ' ' << size;
+      ASSERT_EQ(change(in_place), in_place);
+      ASSERT_STREQ(in_place, wanted.c_str()) << size;
     }
-    EXPECT_EQ(test.text(nullptr), nullptr) << test.name;
+    EXPECT_EQ(change(nullptr), nullptr);
+  };
+  for (const Family& family : families) {
+    SCOPED_TRACE(family.name);
+    expect(family.to_upper, family.text_to_upper, family.lower_partners, family.upper_partners);
+    expect(family.to_lower, family.text_to_lower, family.upper_partners, family.lower_partners);
   }
 }
 
@@ -182,19 +145,21 @@ TEST(Selectors, ChooseTheFamilyByLanguageAndCodePage) {
 }
 
 TEST(Punctuation, TypographicFormsCountInAnsiOnly) {
-  for (int c = 0; c < 256; ++c) {
-    for (const int code_page : {0, 2}) {
-      EXPECT_EQ(iscomma(c, code_page), c == ',') << c;
-      EXPECT_EQ(isdash(c, code_page), c == '-') << c;
-      EXPECT_EQ(isapostrophe(c, code_page), c == '\'' || c == '`') << c;
-      EXPECT_EQ(isqmark(c, code_page), c == '"') << c;
-      EXPECT_EQ(ischpunct(c, code_page), !latin(c) && !digit(c) && !ru_oem(c)) << c;
+  const struct {
+    int16_t (*function)(int, int);
+    std::string characters;  // in every code page but 1
+    Function in_ansi;
+  } rows[] = {{iscomma, ",", IsSourceComma},
+              {isdash, "-", IsSourceDash},
+              {isapostrophe, "'`", IsSourceApostrophe},
+              {isqmark, "\"", IsSourceQmark},
+              {ischpunct, all_but(latin + digits + ru_oem_upper + ru_oem_lower), IsSourcePunct}};
+  for (const auto& [function, characters, in_ansi] : rows) {
+    for (int c = 0; c < 256; ++c) {
+      for (const int code_page : {0, 2})
+        EXPECT_EQ(function(c, code_page), one_of(c, characters)) << c;
+      EXPECT_EQ(function(c, 1), in_ansi(c)) << c;
     }
-    EXPECT_EQ(iscomma(c, 1), IsSourceComma(c)) << c;
-    EXPECT_EQ(isdash(c, 1), IsSourceDash(c)) << c;
-    EXPECT_EQ(isapostrophe(c, 1), IsSourceApostrophe(c)) << c;
-    EXPECT_EQ(isqmark(c, 1), IsSourceQmark(c)) << c;
-    EXPECT_EQ(ischpunct(c, 1), IsSourcePunct(c)) << c;
   }
   EXPECT_EQ(kz_codr_get_internal_code(), 1);
 }

@@ -41,6 +41,18 @@ inline std::vector<int> codes(std::string_view hex) {
   return result;
 }
 
+inline std::string bytes(std::string_view hex) {
+  std::string result;
+  for (const int code : codes(hex)) result += static_cast<char>(code);
+  return result;
+}
+
+// What stands for a code: that of `to` in the place of its first one in `from`, or the code itself.
+inline int partner(int code, std::string_view from, std::string_view to) {
+  const std::size_t at = from.find(static_cast<char>(code));
+  return at != from.npos ? static_cast<unsigned char>(to[at]) : code & 255;
+}
+
 // A text of any bytes but zero.
 inline std::string random_text(std::size_t size, unsigned seed) {
   std::mt19937 random(seed);
