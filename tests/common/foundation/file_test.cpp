@@ -85,9 +85,11 @@ TEST_F(FileTest, OnlyFilesThatOpenOpenedAreClosedByTheDestructor) {
   int opened;
   int wrapped;
   {
-    ZCFile f(write("a", "").c_str(), 0x40);
+    ZCFile f(write("a", "line").c_str(), 0x40);
     EXPECT_EQ(fcntl(opened = f, F_GETFD) & FD_CLOEXEC, 0);
-    const ZCFile g(wrapped = dup(opened));
+    ZCFile g(wrapped = dup(opened));
+    ZCString line;
+    EXPECT_NE(g.ReadString(line), nullptr);
     const ZCFile not_inherited(file("a").c_str(), 0xC0);
     EXPECT_NE(fcntl(not_inherited, F_GETFD) & FD_CLOEXEC, 0);
   }

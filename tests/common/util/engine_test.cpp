@@ -12,16 +12,15 @@ namespace {
 // The registry is one for the process: each test begins and ends with all handles free.
 class EngineRegistry : public testing::Test {
  protected:
-  void SetUp() override { reset(); }
-  void TearDown() override { reset(); }
+  EngineRegistry() { reset(); }
+  ~EngineRegistry() override { reset(); }
 
   static void reset() {
     for (int id = 0; id < 256; ++id) FreeHandler(255, static_cast<std::int16_t>(id));
     kz_data_free();
   }
 
-  int first_ = 1;
-  int second_ = 2;
+  int first_ = 1, second_ = 2;
 };
 
 TEST_F(EngineRegistry, HoldsTwoEngines) {
@@ -32,8 +31,8 @@ TEST_F(EngineRegistry, HoldsTwoEngines) {
   EXPECT_EQ(SetKZEngine(&first_, 1), 2) << "an id, but no place";
   EXPECT_EQ(KZEngine(0), &first_);
   EXPECT_EQ(KZEngine(1), &second_);
-  EXPECT_EQ(KZEngine(2), nullptr);
-  EXPECT_EQ(KZEngine(65535), nullptr);
+  for (const unsigned none : {2U, 65535U})
+    EXPECT_EQ(KZEngine(static_cast<std::uint16_t>(none)), nullptr);
   EXPECT_EQ(KZDTBEngine(0), nullptr);
   EXPECT_EQ(KZDTBEngine(1), &second_);
 
@@ -47,9 +46,8 @@ TEST_F(EngineRegistry, HoldsTwoEngines) {
 }
 
 TEST_F(EngineRegistry, KeepsIdsWithoutATable) {
-  for (const std::int16_t entries :
-       {std::int16_t{-1}, std::int16_t{0}, std::int16_t{1}, std::int16_t{2}, std::int16_t{32767}}) {
-    EXPECT_EQ(kz_data_init(entries), 1);
+  for (const int entries : {-1, 0, 1, 2, 32767}) {
+    EXPECT_EQ(kz_data_init(static_cast<std::int16_t>(entries)), 1);
     EXPECT_EQ(SetKZEngine(&first_, 1), 0);
     EXPECT_EQ(SetKZEngine(&second_, 1), 1);
     EXPECT_EQ(kz_data_init(2), 1) << "the table stays";
@@ -68,15 +66,12 @@ TEST_F(EngineRegistry, FailsWhenAllIdsAreTaken) {
   EXPECT_EQ(GetNewEngineHandler(), -1);
   EXPECT_EQ(SetKZEngine(&first_, 0), -1);
   EXPECT_EQ(GetNewHandler(2), 0) << "another pool";
-  FreeHandler(1, 1);
-  EXPECT_EQ(SetKZEngine(&first_, 0), 1);
-  EXPECT_EQ(KZEngine(0), nullptr) << "taken, but not registered";
-}
-
-TEST_F(EngineRegistry, TakesAKernelBlock) {
   EXPECT_EQ(kz_comm_init_kernel(nullptr), 0);
   EXPECT_EQ(kz_comm_init_kernel(&first_), 1);
   kz_comm_free_kernel();
+  FreeHandler(1, 1);
+  EXPECT_EQ(SetKZEngine(&first_, 0), 1);
+  EXPECT_EQ(KZEngine(0), nullptr) << "taken, but not registered";
 }
 
 TEST(GenId, IsEightIndependentPools) {

@@ -14,14 +14,11 @@ TEST(StrLex, TokensOfATextAreThoseBetweenDelimiters) {
   const struct {
     const char *picture, *text;
     std::vector<std::pair<int, std::string>> tokens;  // where they begin
-  } cases[] = {
-      {nullptr, "  ab cd", {{2, "ab"}, {5, "cd"}}},
-      {nullptr, "a\v\f\r\n\t b,\xA0 ", {{0, "a"}, {7, "b,\xA0"}}},
-      {";\xFF", "\xFF;a b;;\x7F\xFF", {{2, "a b"}, {7, "\x7F"}}},
-      {"", "a b", {{0, "a b"}}},
-      {nullptr, " \n", {}},
-      {nullptr, "", {}},
-  };
+  } cases[] = {{nullptr, "  ab cd", {{2, "ab"}, {5, "cd"}}},
+               {nullptr, "a\v\f\r\n\t b,\xA0 ", {{0, "a"}, {7, "b,\xA0"}}},
+               {";\xFF", "\xFF;a b;;\x7F\xFF", {{2, "a b"}, {7, "\x7F"}}},
+               {"", "a b", {{0, "a b"}}},
+               {nullptr, " \n", {}}};
   for (const auto& [picture, text, tokens] : cases) {
     CStrLex lex(picture);
     char output[32] = "before";
@@ -38,24 +35,19 @@ TEST(StrLex, TokensOfATextAreThoseBetweenDelimiters) {
     for (int again = 0; again < 2; ++again, at = lex.Next(output)) {
       EXPECT_EQ(at, nullptr);
       EXPECT_STREQ(output, "");
-      EXPECT_EQ(lex.LastBegin(), nullptr);
-      EXPECT_EQ(lex.LastEnd(), nullptr);
+      EXPECT_TRUE(lex.LastBegin() == nullptr && lex.LastEnd() == nullptr);
     }
   }
 }
 
 TEST(StrLex, NumbersSelectTokensOfItsOwnCopy) {
-  const struct {
-    const char* text;
-    std::vector<std::string> tokens;  // of the numbers from 0 on
-  } cases[] = {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
       {"a;bc,,d", {"a", "bc", "d", "d", "d"}},
       {";a;b;", {"a", "b", "", ""}},
       {"a", {"a", "a", "a"}},
       {";", {"", "", ""}},
-      {"", {"", "", ""}},
-  };
-  for (const auto& [text, tokens] : cases) {
+      {"", {"", "", ""}}};
+  for (const auto& [text, tokens] : cases) {  // of the numbers from 0 on
     CStrLex lex(";,");
     std::string given = text;
     EXPECT_EQ(lex.FirstStr(given.c_str()), tokens[0]);

@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string>
+#include <tuple>
+#include <utility>
 
 #include "kz/strutil.h"
 
@@ -26,39 +29,29 @@ TEST(Path, NamesAndExtensionsStartBehindTheRightSeparator) {
     EXPECT_EQ(GetFileName(path), path + std::strlen(path) - std::strlen(name)) << path;
     EXPECT_EQ(GetExt(path), path + std::strlen(path) - std::strlen(extension)) << path;
   }
-  EXPECT_EQ(GetFileName(nullptr), nullptr);
-  EXPECT_EQ(GetExt(nullptr), nullptr);
-  EXPECT_EQ(HasWildCards("a*b"), 1);
-  EXPECT_EQ(HasWildCards("?"), 1);
-  EXPECT_EQ(HasWildCards("c:\\d.x"), 0);
-  EXPECT_EQ(HasWildCards(nullptr), 0);
+  EXPECT_TRUE(GetFileName(nullptr) == nullptr && GetExt(nullptr) == nullptr);
+  EXPECT_EQ(HasWildCards("a*b") + HasWildCards("?"), 2);
+  EXPECT_EQ(HasWildCards("c:\\d.x") + HasWildCards(nullptr), 0);
 }
 
 TEST(Path, SeparatorIsCompletedOnce) {
-  const struct {
-    const char *path, *completed;
-  } cases[] = {{"", ""}, {"dir", "dir\\"}, {"dir\\", "dir\\"}, {"/", "/"}, {"c:", "c:\\"}};
-  for (const auto& [path, completed] : cases) {
+  for (const auto& [path, completed] :
+       {std::pair{"", ""}, {"dir", "dir\\"}, {"dir\\", "dir\\"}, {"/", "/"}, {"c:", "c:\\"}}) {
     char text[8];
-    std::strcpy(text, path);
-    EXPECT_EQ(set_pathsep(text), text);
+    EXPECT_EQ(set_pathsep(std::strcpy(text, path)), text);
     EXPECT_STREQ(text, completed);
   }
 }
 
 TEST(Path, ExtensionIsReplacedOnlyByOneWithADot) {
-  const struct {
-    const char *source, *extension, *result;
-  } cases[] = {
+  const std::tuple<const char*, const char*, const char*> cases[] = {
       {"c:\\d.x\\f", ".txt", "c:\\d.txt"},
       {"c:\\d.x\\f", "txt", "c:\\d.x\\f.txt"},
       {"a.b.c", ".d", "a.b.d"},
       {"a.b", "c", "a.b.c"},
-      {"a", ".c", "a.c"},
       {"a.long", ".", "a."},
       {"a", "", "a."},
-      {"", ".c", ".c"},
-  };
+      {"", ".c", ".c"}};
   for (const auto& [source, extension, result] : cases) {
     char text[20];
     EXPECT_EQ(SetExt(text, source, extension), text);
@@ -69,30 +62,27 @@ TEST(Path, ExtensionIsReplacedOnlyByOneWithADot) {
 }
 
 TEST(Path, ShortFormKeepsDriveNameAndTheLastDirectories) {
-  const struct {
-    const char* path;
-    int16_t maximum;
-    const char* result;
-  } cases[] = {
-      {"c:\\work\\dicts\\a.dic", 16, "c:\\...\\a.dic"},
-      {"c:\\work\\dicts\\a.dic", 17, "c:\\...\\a.dic"},
-      {"c:\\work\\dicts\\a.dic", 18, "c:\\...\\dicts\\a.dic"},
-      {"c:\\work\\dicts\\a.dic", 19, "c:\\work\\dicts\\a.dic"},
-      {"c:\\a/bb\\ccc\\dddddd/a.dic", 19, "c:\\...\\dddddd/a.dic"},
-      {"c:\\a/bb\\ccc\\dddddd/a.dic", 18, "c:\\.../a.dic"},
+  const std::string work = "c:\\work\\dicts\\a.dic", mixed = "c:\\a/bb\\ccc\\dddddd/a.dic";
+  const std::string name = "averyveryverylongname.dic";
+  const std::tuple<std::string, int, std::string> cases[] = {
+      {work, 15, work},
+      {work, 16, "c:\\...\\a.dic"},
+      {work, 17, "c:\\...\\a.dic"},
+      {work, 18, "c:\\...\\dicts\\a.dic"},
+      {work, 19, work},
+      {mixed, 19, "c:\\...\\dddddd/a.dic"},
+      {mixed, 18, "c:\\.../a.dic"},
       {"c:a/bb/ccc/dddddd/a.dic", 20, "c:\\.../dddddd/a.dic"},
-      {"c:\\work\\dicts\\a.dic", 15, "c:\\work\\dicts\\a.dic"},
       {"c:\\dictionaries\\d\\a.dic", 20, "c:\\...\\d\\a.dic"},
       {"/home/user/dictionaries/a.dic", 20, "\\.../a.dic"},
       {"c:\\onlyonedirectory\\a.dic", 16, "c:\\...\\a.dic"},
-      {"averyveryverylongname.dic", 16, "averyveryverylongname.dic"},
-      {"\\averyveryverylongname.dic", 16, "\\averyveryverylongname.dic"},
-      {"\\a\\averyveryverylongname.dic", 16, "\\averyveryverylongname.dic"},
-  };
+      {name, 16, name},
+      {'\\' + name, 16, '\\' + name},
+      {"\\a\\" + name, 16, '\\' + name}};
   for (const auto& [path, maximum, result] : cases) {
-    char text[40];
-    std::strcpy(text, path);
-    EXPECT_STREQ(get_short_path(text, maximum), result);
+    std::string text = path + std::string(16, ' ');
+    text[path.size()] = '\0';
+    EXPECT_EQ(get_short_path(text.data(), static_cast<int16_t>(maximum)), result);
   }
   EXPECT_EQ(get_short_path(nullptr, 16), nullptr);
 }
