@@ -10,7 +10,8 @@
 
 #include "kz/codepage.h"
 #include "kz/entry.h"
-#include "tests/support/source_tree.h"
+#include "tests/support/page.h"
+#include "tests/support/utf8.h"
 #include "text/literal.h"
 
 namespace {
@@ -56,72 +57,22 @@ std::string mixed_to_ansi(const std::string& text, const char* language) {
   return converted(strdicoemtoansi, text, language, true);
 }
 
-// A stretch of text in one script.
-struct Piece {
-  enum Script { russian, western } script;
-  std::string ansi;
-
-  std::string oem() const {
-    return converted(script == russian ? strruansitooem : stransitooem, ansi);
-  }
-};
-using Pieces = std::vector<Piece>;
-
-Piece russian(std::string_view text) { return {Piece::russian, std::string(text)}; }
-Piece western(std::string_view text) { return {Piece::western, std::string(text)}; }
-
-struct Texts {
-  std::string ansi, oem;
-};
-
-Texts join(const Pieces& pieces) {
-  Texts texts;
-  for (const Piece& piece : pieces) {
-    texts.ansi += piece.ansi;
-    texts.oem += piece.oem();
-  }
-  return texts;
-}
-
 TEST(MixedText, DecidesEachLetterInDoubtByItsWord) {
-  const struct {
-    const char* language;
-    Pieces pieces;
-  } rows[] = {
-      {"RUDE", {western(U"Übung über Straße früh"_1252)}},
-      {"RUDE", {russian(U"Дом для ЬЬ ьюди"_1251), western(U" grün"_1252)}},
-      {"RUDE", {western(U"Wörter"_1252), russian(U" и цДФ"_1251)}},
-      {"DE", {western(U"über"_1252), russian(U" ццц"_1251)}},
-      {"RUFR", {western(U"été où"_1252), russian(U" еда"_1251)}},
-      {"FR", {western(U"été, le Noël"_1252)}},
-      // As many Russian as Latin letters, none at first: the letter behind it decides.
-      {"RUDE", {russian(U"ц"_1251)}},
-      {"RUDE", {russian(U"ц.ц 1ц1"_1251)}},
-      {"RUDE", {russian(U"цд"_1251)}},
-      {"RUDE", {western("a"), russian(U"бц"_1251)}},
-      {"RUDE", {western("a"), russian(U"б"_1251), western(U"öxä"_1252)}},
-      {"RUDE", {western(U"aä"_1252), russian(U"б"_1251), western(U"ö"_1252)}},
-      // The word goes on over some characters and begins anew behind others.
-      {"RUDE", {western(U"Groß-ä.ö/ü&ä7ö"_1252), russian(U" ц"_1251)}},
-      {"RUDE", {western("Bad"), russian(U",ц"_1251)}},
-      {"RUDE", {russian(U"до"_1251), western("x"), russian(U"ц"_1251)}},
-      // No letter of the language is also a Russian one.
-      {"RUEN", {western("x"), russian(U"цё"_1251)}},
-      {"FRRU", {western("x"), russian(U"ёц"_1251)}},
-      {"DEU", {western("x"), russian(U"ц"_1251)}},
-      {"de", {western(U"xä"_1252)}},
-      {"", {western("x"), russian(U"ц"_1251)}},
-      {no_text, {western("x"), russian(U"ц"_1251)}},
-      // Longer than a direction: undecided letters are Western.
-      {"RUDEX", {western(U"ä ö."_1252)}},
-      {"RUDEX", {russian(U"цё"_1251)}},
-      {"XXRUDE", {western("x"), russian(U"ц"_1251)}},
-  };
-  for (const auto& [language, pieces] : rows) {
-    const Texts texts = join(pieces);
-    EXPECT_EQ(mixed_to_oem(texts.ansi, language), texts.oem) << texts.ansi;
-    EXPECT_EQ(mixed_to_ansi(texts.oem, language), texts.ansi) << texts.ansi;
+  int examples = 0;
+  for (const std::string& line : kz::test::examples("conversions.md", "mixed")) {
+    const std::vector<std::string> fields = kz::test::fields_of(line);
+    const char* const language = fields[0] == "none" ? nullptr : fields[0].c_str();
+    std::string ansi, oem;
+    for (const char32_t c : kz::test::decoded(fields[1])) {
+      const bool russian = c >= U'Ё';
+      ansi += static_cast<char>(russian ? kz::to_1251(c) : kz::to_1252(c));
+      oem += converted(russian ? strruansitooem : stransitooem, {ansi.back()});
+    }
+    EXPECT_EQ(mixed_to_oem(ansi, language), oem) << line;
+    EXPECT_EQ(mixed_to_ansi(oem, language), ansi) << line;
+    ++examples;
   }
+  EXPECT_GE(examples, 24);
 }
 
 TEST(MixedText, ConvertsWhatIsNoLetterLikeRussianText) {
@@ -156,8 +107,7 @@ TEST(EntryConversion, TakesTheTableOfEachSection) {
       {{'H', high}, {'R', "*" + one}, {'-', one + one}, {'R', "[" + high + "]"}, {'B', high}},
       {{'H', "w"}, {'R', "*" + one}, {'B', high + "[" + high + "]"}, {'H', "\\" + high}},
       {{'H', "w"}, {'R', "*" + one}, {'B', "[" + high}, {'H', "\\" + high + "\\\\" + high}},
-      {{'H', "w"}, {'R', "*\\[" + high + "]"}, {'B', high}},
-  };
+      {{'H', "w"}, {'R', "*\\[" + high + "]"}, {'B', high}}};
   for (const bool to_oem : {true, false}) {
     for (const auto& [language, head, body] : rows) {
       for (const Sections& sections : entries) {
@@ -185,12 +135,10 @@ TEST(EntryConversion, WithoutALanguageIsThatOfAText) {
 TEST(EntryCoding, GivesTheNormalFormOfAnEntry) {
   const struct {
     std::string_view full, normal;
-  } rows[] = {
-      {U"стол*N[M]table;desk\\ref\\\\Стол"_1251, U"стол*N[M]table;desk\\ref\\\\Стол"_1251},
-      {U"стол"_1251, U"стол*"_1251},
-      {"", ""},
-      {"*N[M]text", ""},
-  };
+  } rows[] = {{U"стол*N[M]table;desk\\ref\\\\Стол"_1251, U"стол*N[M]table;desk\\ref\\\\Стол"_1251},
+              {U"стол"_1251, U"стол*"_1251},
+              {"", ""},
+              {"*N[M]text", ""}};
   for (const auto& [full, normal] : rows) {
     CDicEntry entry("RUEN", 'C');
     char buffer[64] = "x";

@@ -3,8 +3,11 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "kz/entry.h"
+#include "tests/support/page.h"
+#include "tests/support/utf8.h"
 #include "text/literal.h"
 
 using kz::operator""_1251;
@@ -15,22 +18,15 @@ namespace {
 Text or_empty(const char* s) { return s == nullptr ? "" : s; }
 
 // The pieces of a split entry; without a source word the accessor answers with the head word.
-struct Pieces {
-  Text word, part_text, attr, body, ref, src;
-  char part = 0;
-  bool operator==(const Pieces&) const = default;
-};
-
-Pieces pieces(CDicEntry& entry) {
+Text pieces(CDicEntry& entry) {
   char part_text[4096];
-  const char part = entry.GetPart(part_text);
-  return {entry.GetInWord(nullptr),
-          part_text,
-          entry.GetAttrView(nullptr),
-          entry.GetEntry(nullptr),
-          entry.GetSrcRef(nullptr),
-          entry.GetSrcWord(nullptr),
-          part};
+  EXPECT_EQ(entry.GetPart(part_text), *part_text);
+  Text result = entry.GetInWord(nullptr);
+  for (const char* piece :
+       {static_cast<const char*>(part_text), entry.GetAttrView(nullptr), entry.GetEntry(nullptr),
+        entry.GetSrcRef(nullptr), entry.GetSrcWord(nullptr)})
+    result += Text("|") + piece;
+  return result;
 }
 
 // Meanings as one readable text: "tag{definition}synonym;synonym/...".
@@ -52,94 +48,29 @@ Text built(const char* language, char kind, char part, std::string_view body) {
   return meanings(entry);
 }
 
-TEST(EntrySplit, TakesPiecesApartAndJoinsThemAgain) {
-  struct Case {
-    Text full;
-    Pieces pieces;
-    Text joined;
-  };
-  const Case cases[] = {
-      {R"(table*N1.a/2.b;c\\Table)", {"table", "N", "", "1.a/2.b;c", "", "Table", 'N'}, {}},
-      {"no star", {"no star", "", "", "", "", "no star", 0}, "no star*"},
-      {"a*b*", {"a*b", "", "", "", "", "a*b", 0}, {}},
-      {"*Nx", {"", "N", "", "x", "", "", 'N'}, ""},
-      {R"(run*Vabc[NX]x\ref\\Run)", {"run", "Vabc", "[NX]", "x", "ref", "Run", 'V'}, {}},
-      {"run*V1234567[NX]x", {"run", "V1234567", "[NX]", "x", "", "run", 'V'}, {}},
-      {"run*V12345678[NX]x", {"run", "V", "", "12345678[NX]x", "", "run", 'V'}, {}},
-      {"run*Va]b[NX]x", {"run", "V", "", "a]b[NX]x", "", "run", 'V'}, {}},
-      {"run*Va {d}[NX]x", {"run", "Va", " {d}[NX]", "x", "", "run", 'V'}, {}},
-      {"run*W[NX]x", {"run", "W", "", "[NX]x", "", "run", 'W'}, {}},
-      {R"(c*$[a]b\d\\C)", {"c", "$", "", R"([a]b\d)", "", "C", '$'}, {}},
-      {R"(word*Nx\\)", {"word", "N", "", "x", "\\", "word", 'N'}, {}},
-      {R"(word*Nx\)", {"word", "N", "", "x", "", "word", 'N'}, "word*Nx"},
-      {"word*N{d}x]y", {"word", "N", "{d}x]", "y", "", "word", 'N'}, {}},
-      {"word*wa[x]", {"word", "w", "", "a[x]", "", "word", 'w'}, {}},
-  };
-  for (const Case& c : cases) {
+TEST(EntryFormatPage, EntriesAreSplitAndJoinedAsShown) {
+  for (const Text& line : kz::test::examples("entry-format.md", "split")) {
+    const std::vector<Text> fields = kz::test::fields_of(line);
     CDicEntry entry;
-    entry.SetFullEntry(c.full.c_str());
+    entry.SetFullEntry(fields[0].c_str());
     entry.Split();
-    EXPECT_EQ(pieces(entry), c.pieces) << c.full;
+    EXPECT_EQ(pieces(entry), fields[1]) << line;
     entry.Merge();
-    const Text& joined = c.joined.empty() && c.full[0] != '*' ? c.full : c.joined;
-    EXPECT_EQ(entry.GetFullEntry(nullptr), joined);
+    EXPECT_EQ(entry.GetFullEntry(nullptr), fields.size() > 2 ? fields[2] : fields[0]);
   }
 }
 
-TEST(EntryMeanings, FollowNumbersCodesAndPhrases) {
-  struct Case {
-    const char* language;
-    char kind;
-    char part;
-    std::string_view body, meanings;
-  };
-  const Case cases[] = {
-      {"ENRU", 'c', 'N', U"1.стол/2.таблица;график"_1251, U"1.{}стол;/2.{}таблица;график;/"_1251},
-      {"ENRU", 'c', 'V', U"Aбыстрый/Bскорый"_1251, U"A{}быстрый;/B{}скорый;/"_1251},
-      {"ENRU", 'S', 'V', U"Aбыстрый/Bскорый"_1251, U"{}Aбыстрый;/{}Bскорый;/"_1251},
-      {"ENRU", 'C', 'V', U"бежатьZ)"_1251, U"{}бежать ;/"_1251},
-      {"ENRU", 'c', 'V', U"бежатьZ)"_1251, U"{}бежать Z );/"_1251},
-      {"RUEN", 'c', 'N', U"1.Дhouse/Д2home"_1251, U"Д{}house;/{}Д2home;/"_1251},
-      {"ENRU", 'c', 'N', U"1. мат.: ряд/2.{список}(а/б)в"_1251,
-       U"1. мат.{}ряд;/2.{список}(а/б) в;/"_1251},
-      {"ENRU", 'c', 'N', U"A1. а: б"_1251, U"1. {}а: б;/"_1251},
-      {"ENRU", 'c', 'N', U"Wа/;Wб/в/г"_1251, U"{}а;б/в;/{}г;/"_1251},
-      {"ENRU", 'c', 'N', U"Wа/;ABWб/;ABCWв/г"_1251, U"{}а;A B  б;;/C{}в/г;/"_1251},
-      {"ENRU", 'c', 'N', U"а#б/в#{г/[д/"_1251, U"{}а #б;/{}в #{г/[д;/"_1251},
-      {"ENRU", 'c', 'N', "A. ", "A{};/"},
-      {"ENRU", 'C', 'N', "A. ", ""},
-      {"ENRU", 'c', 'N', "1.", "1.{};/"},
-      {"ENRU", 'c', 'N', "{a}[b]", ""},
-      {"ENRU", 'c', 'N', "//", "{};/{};/"},
-      {"ENRU", 'c', 'N', "", ""},
-      // Labels: with a text behind the number, cut short by the end, of two digits.
-      {"ENRU", 'c', 'N', U"1. мат.{ряд}а/12.б/123.в"_1251,
-       U"1. мат.{ряд}а;/12.{}б;/{}1;/23.{}в;/"_1251},
-      {"ENRU", 'c', 'N', U"A. а/B а/C:а"_1251, U"A. {}а;/B {}а;/C{}а;/"_1251},
-      {"ENRU", 'c', 'N', U"a)а/б"_1251, U"{}a ) а;/{}б;/"_1251},
-      {"RUEN", 'c', 'N', U"Дa/ДД1b"_1251, U"Д{}a;/Д{}Д1b;/"_1251},
-      // Definitions and blocks at the end of a body.
-      {"ENRU", 'c', 'N', U"1.{а}"_1251, ""},
-      {"ENRU", 'C', 'N', "{a}A", "{a};/"},
-      {"ENRU", 'C', 'N', "[a]A", "{};/"},
-      // What ends a text: a backslash, but not a slash in a group or in a run of phrases.
-      {"ENRU", 'c', 'N', U"а\\б/в"_1251, U"{}а;/"_1251},
-      {"ENRU", 'c', 'N', U"а(б/в)1.г"_1251, U"{}а (б/в);/1.{}г;/"_1251},
-      {"ENRU", 'c', 'N', U"Wа\\б/;Wв/г"_1251, U"{}а;/"_1251},
-      {"ENRU", 'c', 'N', U"Wа/Wб/в"_1251, U"{}а/ б/в;/"_1251},
-      // Reduced: words before a phrase and codes go, blanks stay single.
-      {"ENRU", 'C', 'N', U"аW)б;вWг"_1251, U"{}б;в;/{}г;/"_1251},
-      {"ENRU", 'C', 'N', U"а#б #в"_1251, U"{}а б в;/"_1251},
-      {"ENRU", 'C', 'N', U"а#б;а#б#в;аW) б"_1251, U"{}а б;а б в;б;/"_1251},
-      {"ENRU", 'C', 'N', U"а{z}б/)в"_1251, U"{}а{z}б;/{}в;/"_1251},
-      {"RUEN", 'C', 'N', "(a ZbY)c", "{}(a b c;/"},
-      // Spaced: groups, bars and codes stand apart.
-      {"ENRU", 'c', 'N', U"а|б(в)г #д# е"_1251, U"{}а | б (в) г #д# е;/"_1251},
-      {"ENRU", 'c', 'N', U"а[z]б{y}в"_1251, U"{}а [z] б {y} в;/"_1251},
-  };
-  for (const Case& c : cases)
-    EXPECT_EQ(built(c.language, c.kind, c.part, c.body), c.meanings)
-        << c.language << c.kind << testing::PrintToString(c.body);
+TEST(EntryFormatPage, BodiesHaveTheMeaningsShown) {
+  int examples = 0;
+  for (const Text& utf8 : kz::test::examples("entry-format.md", "meanings")) {
+    const Text line = kz::test::encoded_1251(utf8);
+    const std::size_t body = sizeof "ENRU c N", end = line.find(" -> ");
+    const Text found =
+        built(line.substr(0, 4).c_str(), line[5], line[7], line.substr(body, end - body));
+    EXPECT_EQ(found.empty() ? "none" : found, line.substr(end + 4)) << line;
+    ++examples;
+  }
+  EXPECT_GE(examples, 35);
 }
 
 TEST(EntryMeanings, GroupSynonymsOfAnExtendedPartUnderItsCode) {

@@ -79,17 +79,15 @@ TEST(Entry, TakesDecorationsOffASynonym) {
     int flag;
     std::string_view labels, text, references;
   };
-  const Case cases[] = {
-      {U"a)слово 1,2"_1251, 0, "a)", U"слово"_1251, " 1,2"},
-      {U"a)б) [x[y]] слово"_1251, 0, U"a)б) [x[y]] "_1251, U"слово"_1251, ""},
-      {U"See: дом 3"_1251, 1, "", U"See: дом"_1251, " 3"},
-      {U"См.: дом"_1251, 1, "", U"См.: дом"_1251, ""},
-      {U"дом [x] y; з"_1251, 0, "", U"дом ; з"_1251, ""},
-      {U"дом;[x]"_1251, 0, "", U"дом;[x]"_1251, ""},
-      {U"дом [x"_1251, 0, "", U"дом"_1251, " "},
-      {"12, 3", 0, "", "", "12, 3"},
-      {"", 0, "", "", ""},
-  };
+  const Case cases[] = {{U"a)слово 1,2"_1251, 0, "a)", U"слово"_1251, " 1,2"},
+                        {U"a)б) [x[y]] слово"_1251, 0, U"a)б) [x[y]] "_1251, U"слово"_1251, ""},
+                        {U"See: дом 3"_1251, 1, "", U"See: дом"_1251, " 3"},
+                        {U"См.: дом"_1251, 1, "", U"См.: дом"_1251, ""},
+                        {U"дом [x] y; з"_1251, 0, "", U"дом ; з"_1251, ""},
+                        {U"дом;[x]"_1251, 0, "", U"дом;[x]"_1251, ""},
+                        {U"дом [x"_1251, 0, "", U"дом"_1251, " "},
+                        {"12, 3", 0, "", "", "12, 3"},
+                        {"", 0, "", "", ""}};
   CDicEntry entry;
   for (const Case& c : cases) {
     char shown[64];
@@ -116,13 +114,11 @@ TEST(Entry, TellsGrammarCodesFromLetters) {
     const char* language;
     char kind, part;
     std::string_view openings, targets;
-  } cases[] = {
-      {"ENRU", 'c', 'N', "AzA1", "Az"}, {"DERU", 'C', 'V', "AzA1", "Az"},
-      {"RUDE", 'c', 'N', "AA)A1", "A"}, {"RUEN", 'C', 'N', U"AA)A1ДД)"_1251, "A"},
-      {"ENRU", 'S', 'N', "", "Az"},     {"ENRU", 'c', 'W', "", "Az"},
-      {"ENRU", 'c', 'w', "", "Az"},     {"RU", 'c', 'N', "", ""},
-      {nullptr, 'C', 'N', "", ""},
-  };
+  } cases[] = {{"ENRU", 'c', 'N', "AzA1", "Az"}, {"DERU", 'C', 'V', "AzA1", "Az"},
+               {"RUDE", 'c', 'N', "AA)A1", "A"}, {"RUEN", 'C', 'N', U"AA)A1ДД)"_1251, "A"},
+               {"ENRU", 'S', 'N', "", "Az"},     {"ENRU", 'c', 'W', "", "Az"},
+               {"ENRU", 'c', 'w', "", "Az"},     {"RU", 'c', 'N', "", ""},
+               {nullptr, 'C', 'N', "", ""}};
   for (const auto& c : cases) {
     CDicEntry entry(c.language, c.kind);
     entry.Build("w", c.part, "", nullptr);

@@ -40,15 +40,13 @@ TEST(EntryText, SkipsLabels) {
 TEST(EntryText, SkipsLabelsAndBlocksAndCutsABracketGroup) {
   const struct {
     const char *source, *skipped, *whole;
-  } cases[] = {
-      {"a) [x[y]z] word [1] 2;[3]", "word ;[3]", "a) [x[y]z] word ;[3]"},
-      {"a)word [1]", "word ", "a)word "},
-      {"word;[1]", "word;[1]", "word;[1]"},
-      {"[x] [y];z", ";z", "[x] ;z"},
-      {"a)  [x]z", " ", "a)  "},
-      {"[x[y]", "", "[x[y]"},
-      {"", "", ""},
-  };
+  } cases[] = {{"a) [x[y]z] word [1] 2;[3]", "word ;[3]", "a) [x[y]z] word ;[3]"},
+               {"a)word [1]", "word ", "a)word "},
+               {"word;[1]", "word;[1]", "word;[1]"},
+               {"[x] [y];z", ";z", "[x] ;z"},
+               {"a)  [x]z", " ", "a)  "},
+               {"[x[y]", "", "[x[y]"},
+               {"", "", ""}};
   for (const auto& c : cases) {
     Exact source(c.source);
     EXPECT_STREQ(SkipCLabels(source.get()), c.skipped);
@@ -60,10 +58,8 @@ TEST(EntryText, TakesInflectionsUpToTheirStop) {
   KzWordRecord word = {};
   const struct {
     const char *source, *inflection, *stop;
-  } cases[] = {
-      {"%abCd%x", "%abCd", "%x"}, {"%abC:x", "%ab", "C:x"},  {"]a]", "]a", "]"},
-      {"%a\\b", "%a", "\\b"},     {"%abC", "%abC", nullptr}, {"", "", nullptr},
-  };
+  } cases[] = {{"%abCd%x", "%abCd", "%x"}, {"%abC:x", "%ab", "C:x"},  {"]a]", "]a", "]"},
+               {"%a\\b", "%a", "\\b"},     {"%abC", "%abC", nullptr}, {"", "", nullptr}};
   for (const auto& c : cases) {
     Exact source(c.source);
     EXPECT_STREQ(GetInf(source.get(), &word), c.stop);
@@ -76,15 +72,13 @@ TEST(EntryText, TakesInflectionsUpToTheirStop) {
 TEST(EntryText, TakesExtendedSynonymCodes) {
   const struct {
     Text source, code, rest;
-  } cases[] = {
-      {"Abc [x]", "Abc", "[x]"},
-      {Text(U"ABЖслово"_1251), Text(U"ABЖ"_1251), Text(U"слово"_1251)},
-      {"123456  x", "123456", " x"},
-      {"1234567 x", "", "1234567 x"},
-      {"Ab", "Ab", ""},
-      {"AWb ", "old", "AWb "},
-      {"", "", ""},
-  };
+  } cases[] = {{"Abc [x]", "Abc", "[x]"},
+               {Text(U"ABЖслово"_1251), Text(U"ABЖ"_1251), Text(U"слово"_1251)},
+               {"123456  x", "123456", " x"},
+               {"1234567 x", "", "1234567 x"},
+               {"Ab", "Ab", ""},
+               {"AWb ", "old", "AWb "},
+               {"", "", ""}};
   for (const auto& c : cases) {
     KzWordRecord word = {nullptr, "old"};
     Exact source(c.source);
@@ -148,8 +142,7 @@ TEST(EntryText, FindsTheNextPart) {
       {"RUDE", 'w', "b/;~\\c&d", "&d"},
       {"RUDE", 'w', "b c", " c"},
       {"RUDE", 'N', "b/;&~ c\\d", "\\d"},
-      {"RUDE", 'N', "b#c", "#c"},
-  };
+      {"RUDE", 'N', "b#c", "#c"}};
   for (const auto& c : cases) {
     EXPECT_EQ(GetNextPart(Exact(c.text).get(), c.language, c.part) + Text(), c.next) << c.text;
   }
@@ -159,16 +152,14 @@ TEST(EntryText, PacksWhatDisplaySetApart) {
   const struct {
     const char* language;
     std::string_view text, packed;
-  } cases[] = {
-      {"ENRU", U"слово ; другое"_1251, U"слово;другое"_1251},
-      {"ENRU", U"а A б & в A1 г W1 д"_1251, U"аAб&в A1 гW1 д"_1251},
-      {"RUEN", U"два слова"_1251, U"дваслова"_1251},
-      {"RUDE", "a ; b ( c ) d | e / f \\ g W h", "a;b(c)d|e/f\\gWh"},
-      {"RUDE", " a # b  c # d [ e ] f { g", "a#b  c#d[e]f{g"},
-      {"RUDE", " \\ a", "\\a"},
-      {"RUDE", " ", " "},
-      {"RUDE", "", ""},
-  };
+  } cases[] = {{"ENRU", U"слово ; другое"_1251, U"слово;другое"_1251},
+               {"ENRU", U"а A б & в A1 г W1 д"_1251, U"аAб&в A1 гW1 д"_1251},
+               {"RUEN", U"два слова"_1251, U"дваслова"_1251},
+               {"RUDE", "a ; b ( c ) d | e / f \\ g W h", "a;b(c)d|e/f\\gWh"},
+               {"RUDE", " a # b  c # d [ e ] f { g", "a#b  c#d[e]f{g"},
+               {"RUDE", " \\ a", "\\a"},
+               {"RUDE", " ", " "},
+               {"RUDE", "", ""}};
   for (const auto& c : cases) {
     Exact text(c.text);
     Exact out(c.text);

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <fstream>
 #include <functional>
 #include <regex>
 #include <string>
@@ -15,7 +14,7 @@
 #include "kz/special.h"
 #include "tests/common/text/reference.h"
 #include "tests/common/text/text_at_page_end.h"
-#include "tests/support/source_tree.h"
+#include "tests/support/page.h"
 #include "tests/support/utf8.h"
 #include "text/literal.h"
 
@@ -132,12 +131,9 @@ std::string smart(const std::string& text, int capitals) {
 // The page shows pairs of an English text and a Russian one, three a line, with blanks between
 // them.
 TEST(SmartTranslit, GivesTheExamplesOfItsPage) {
-  std::ifstream page(kz::test::source_tree() / "docs/conversions.md");
-  std::string line;
-  while (std::getline(page, line) && line != "```smart") continue;
   const std::regex pair(R"re((\S+(?: \S+)*)  +(?:"([^"]*)"|(\S+(?: \S+)*)))re");
   int examples = 0;
-  while (std::getline(page, line) && line != "```") {
+  for (const std::string& line : kz::test::examples("conversions.md", "smart")) {
     for (std::sregex_iterator match(line.begin(), line.end(), pair), end; match != end; ++match) {
       ++examples;
       const std::string english = (*match)[1];

@@ -1,90 +1,58 @@
-// The parts of paths.
+// Parts of paths: the examples of docs/paths.md.
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <string>
-#include <tuple>
-#include <utility>
+#include <vector>
 
 #include "kz/strutil.h"
+#include "tests/support/page.h"
 
 namespace {
 
-TEST(Path, NamesAndExtensionsStartBehindTheRightSeparator) {
-  const struct {
-    const char *path, *name, *extension;
-  } cases[] = {
-      {"c:\\dir\\name.ext", "name.ext", ".ext"},
-      {"/dir.d/name", "name", ""},
-      {"c:\\d.x\\f", "f", ""},
-      {"a\\b/c.d:e", "b/c.d:e", ".d:e"},  // a backslash goes before the others
-      {"a/b:c.d", "b:c.d", ".d"},         // and a slash before a colon
-      {"c:name.a.b", "name.a.b", ".b"},
-      {".profile", ".profile", ".profile"},
-      {"dir\\", "", ""},
-      {"name.", "name.", "."},
-      {"", "", ""},
-  };
-  for (const auto& [path, name, extension] : cases) {
-    EXPECT_EQ(GetFileName(path), path + std::strlen(path) - std::strlen(name)) << path;
-    EXPECT_EQ(GetExt(path), path + std::strlen(path) - std::strlen(extension)) << path;
+using Fields = std::vector<std::string>;
+
+// What a function that changes a path in place leaves.
+template <class Change>
+std::string changed(const std::string& path, Change change) {
+  std::string room = path + std::string(16, '\0');
+  EXPECT_EQ(change(room.data()), room.data());
+  return room.c_str();
+}
+
+template <class Check>
+void for_each(const char* fence, int count, Check check) {
+  for (const std::string& line : kz::test::examples("paths.md", fence)) {
+    SCOPED_TRACE(line);
+    check(kz::test::fields_of(line));
+    --count;
   }
+  EXPECT_EQ(count, 0);
+}
+
+TEST(PathsPage, ShowsWhatTheFunctionsGive) {
+  for_each("parts", 10, [](const Fields& f) {
+    const char *const path = f[0].c_str(), *const end = path + f[0].size();
+    EXPECT_EQ(GetFileName(path), end - f[1].size());
+    EXPECT_EQ(GetExt(path), end - f[2].size());
+  });
+  for_each("separator", 5, [](const Fields& f) { EXPECT_EQ(changed(f[0], set_pathsep), f[1]); });
+  for_each("extension", 7, [](const Fields& f) {
+    const char* const extension = f[1].c_str();
+    EXPECT_EQ(changed("", [&](char* to) { return SetExt(to, f[0].c_str(), extension); }), f[2]);
+    EXPECT_EQ(changed(f[0], [&](char* path) { return SetExt(path, path, extension); }), f[2]);
+  });
+  for_each("short", 14, [](const Fields& f) {
+    const auto maximum = static_cast<int16_t>(std::stoi(f[1]));
+    EXPECT_EQ(changed(f[0], [=](char* path) { return get_short_path(path, maximum); }), f[2]);
+  });
+}
+
+TEST(Path, NullIsNoPath) {
   EXPECT_TRUE(GetFileName(nullptr) == nullptr && GetExt(nullptr) == nullptr);
+  EXPECT_EQ(get_short_path(nullptr, 16), nullptr);
   EXPECT_EQ(HasWildCards("a*b") + HasWildCards("?"), 2);
   EXPECT_EQ(HasWildCards("c:\\d.x") + HasWildCards(nullptr), 0);
-}
-
-TEST(Path, SeparatorIsCompletedOnce) {
-  for (const auto& [path, completed] :
-       {std::pair{"", ""}, {"dir", "dir\\"}, {"dir\\", "dir\\"}, {"/", "/"}, {"c:", "c:\\"}}) {
-    char text[8];
-    EXPECT_EQ(set_pathsep(std::strcpy(text, path)), text);
-    EXPECT_STREQ(text, completed);
-  }
-}
-
-TEST(Path, ExtensionIsReplacedOnlyByOneWithADot) {
-  const std::tuple<const char*, const char*, const char*> cases[] = {
-      {"c:\\d.x\\f", ".txt", "c:\\d.txt"},
-      {"c:\\d.x\\f", "txt", "c:\\d.x\\f.txt"},
-      {"a.b.c", ".d", "a.b.d"},
-      {"a.b", "c", "a.b.c"},
-      {"a.long", ".", "a."},
-      {"a", "", "a."},
-      {"", ".c", ".c"}};
-  for (const auto& [source, extension, result] : cases) {
-    char text[20];
-    EXPECT_EQ(SetExt(text, source, extension), text);
-    EXPECT_STREQ(text, result);
-    std::strcpy(text, source);
-    EXPECT_STREQ(SetExt(text, text, extension), result);
-  }
-}
-
-TEST(Path, ShortFormKeepsDriveNameAndTheLastDirectories) {
-  const std::string work = "c:\\work\\dicts\\a.dic", mixed = "c:\\a/bb\\ccc\\dddddd/a.dic";
-  const std::string name = "averyveryverylongname.dic";
-  const std::tuple<std::string, int, std::string> cases[] = {
-      {work, 15, work},
-      {work, 16, "c:\\...\\a.dic"},
-      {work, 17, "c:\\...\\a.dic"},
-      {work, 18, "c:\\...\\dicts\\a.dic"},
-      {work, 19, work},
-      {mixed, 19, "c:\\...\\dddddd/a.dic"},
-      {mixed, 18, "c:\\.../a.dic"},
-      {"c:a/bb/ccc/dddddd/a.dic", 20, "c:\\.../dddddd/a.dic"},
-      {"c:\\dictionaries\\d\\a.dic", 20, "c:\\...\\d\\a.dic"},
-      {"/home/user/dictionaries/a.dic", 20, "\\.../a.dic"},
-      {"c:\\onlyonedirectory\\a.dic", 16, "c:\\...\\a.dic"},
-      {name, 16, name},
-      {'\\' + name, 16, '\\' + name},
-      {"\\a\\" + name, 16, '\\' + name}};
-  for (const auto& [path, maximum, result] : cases) {
-    std::string text = path + std::string(16, ' ');
-    text[path.size()] = '\0';
-    EXPECT_EQ(get_short_path(text.data(), static_cast<int16_t>(maximum)), result);
-  }
-  EXPECT_EQ(get_short_path(nullptr, 16), nullptr);
 }
 
 }  // namespace

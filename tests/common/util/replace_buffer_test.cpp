@@ -7,12 +7,14 @@
 #include <cstring>
 #include <filesystem>
 #include <random>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <vector>
 
 #include "kz/file.h"
+#include "tests/support/page.h"
 #include "tests/support/temp_dir.h"
 #include "tests/support/unprivileged.h"
 #include "text/literal.h"
@@ -255,21 +257,13 @@ TEST_F(ReplaceBufferTest, FilesAreWrittenInOneStep) {
 }
 
 TEST_F(ReplaceBufferTest, ChangedTextFollowsTheLinesInTheirOrder) {
-  const std::tuple<std::string, std::string, std::string> cases[] = {
-      {"ab=X", "cabd", "cXd"},
-      {"ab\r\nb=Y", "ab", ""},
-      {"ab", "ababX", "abX"},               // behind a dropped word one character is copied
-      {"ab\r\nc=Z\r\nab=Y", "abcab", "Z"},  // then the lines start anew, and drop
-      {"a=1\r\nab=2", "ab", "1b"},
-      {"ab=2\r\na=1", "aab", "12"},
-      {"a=aa", "aba", "aabaa"},
-      {"=X\r\n\r\na=", "bab", "bb"},
-      {"a\rb=\nc", "abc", "\ncc"},  // a carriage return ends a line
-      {"", "abc", "abc"}};
-  for (const auto& [lines, source, result] : cases) {
-    buffer_.SetBuffer((lines + "\r\n").c_str());
-    EXPECT_EQ(change(buffer_, source), result) << lines;
+  for (const std::string& line : kz::test::examples("tables.md", "replace")) {
+    const std::vector<std::string> fields = kz::test::fields_of(line);
+    buffer_.SetBuffer((std::regex_replace(fields[0], std::regex(", "), "\r\n") + "\r\n").c_str());
+    EXPECT_EQ(change(buffer_, fields[1]), fields[2]) << line;
   }
+  buffer_.SetBuffer("a\rb=\nc\r\n");
+  EXPECT_EQ(change(buffer_, "abc"), "\ncc") << "a carriage return ends a line";
   CFindBuffer empty(0);
   EXPECT_EQ(change(empty, "abc"), "abc");
   EXPECT_STREQ(ChangeWord(nullptr, "abc", out_.data()), "abc");
