@@ -1,7 +1,6 @@
 // The line readers of ZCFile against a reader that takes byte by byte.
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -111,16 +110,14 @@ TEST_F(LineTest, ReadersTakeNothingBehindTheLineFromAPipe) {
 }
 
 TEST_F(LineTest, LinesAroundTheStepsOfTheReservedRoom) {
-  for (const int size : {0, 1, 127, 128, 129, 255, 256, 1023, 1024, 1025, 5000}) {
-    const std::string line(static_cast<std::size_t>(size), 'x');
+  for (const int size : {1, 127, 128, 129, 255, 256, 1023, 1024, 1025, 5000}) {
     for (const char* const end : {"", "\n", "\r\n"}) {
-      if (size == 0 && *end == '\0') continue;
-      ZCFile f(write("line", line + end).c_str(), 0);
-      ZCString read;
-      ASSERT_NE(f.ReadString(read), nullptr);
-      EXPECT_EQ(text(read), line);
+      const std::string line(static_cast<std::size_t>(size), 'x');
       const int stored = size + (*end == '\r' ? 1 : 0);
-      EXPECT_EQ(read.GetAllocLength(), 128 * std::max(1, (stored + 127) / 128)) << stored;
+      ZCString read;
+      ASSERT_NE(ZCFile(write("line", line + end).c_str(), 0).ReadString(read), nullptr);
+      EXPECT_EQ(text(read), line);
+      EXPECT_EQ(read.GetAllocLength(), (stored + 127) / 128 * 128) << stored;
     }
   }
 }

@@ -124,19 +124,14 @@ TEST(StringFormat, FollowsNoLocaleOfTheProcess) {
   const std::string make = "localedef -i de_DE -f ISO-8859-1 --no-archive ";
   ASSERT_EQ(std::system((make + place.file("de_DE")).c_str()), 0);
   setenv("LOCPATH", place.file("").c_str(), 1);
-  const char* const set = std::setlocale(LC_ALL, "de_DE");
+  EXPECT_NE(std::setlocale(LC_ALL, "de_DE"), nullptr);
   ZCString number;
-  const std::string before = std::to_string(1.5);
   number.Format("%.1f", 1.5);
-  const ZCString day = ZCTime(0).FormatGmt("%A");
-  const std::string after = std::to_string(1.5);
+  EXPECT_STREQ(number, "1.5");
+  EXPECT_STREQ(ZCTime(0).FormatGmt("%A"), "Thursday");
+  EXPECT_EQ(std::to_string(1.5), "1,500000") << "the locale of the process did not stay";
   std::setlocale(LC_ALL, "C");
   unsetenv("LOCPATH");
-  ASSERT_NE(set, nullptr);
-  EXPECT_EQ(before, "1,500000") << "not the locale that was made";
-  EXPECT_STREQ(number, "1.5");
-  EXPECT_STREQ(day, "Thursday");
-  EXPECT_EQ(after, before) << "the locale of the process did not stay";
 }
 
 }  // namespace

@@ -9,6 +9,9 @@
 
 namespace {
 
+using Ids = std::vector<int>;
+using Engines = std::vector<void*>;
+
 // The registry is one for the process: each test begins and ends with all handles free.
 class EngineRegistry : public testing::Test {
  protected:
@@ -25,16 +28,12 @@ class EngineRegistry : public testing::Test {
 
 TEST_F(EngineRegistry, HoldsTwoEngines) {
   EXPECT_EQ(KZEngine(0), nullptr) << "no table";
-  EXPECT_EQ(SetKZEngine(nullptr, 1), -1);
-  EXPECT_EQ(SetKZEngine(&first_, 0), 0);
-  EXPECT_EQ(SetKZEngine(&second_, 1), 1);
+  EXPECT_EQ((Ids{SetKZEngine(nullptr, 1), SetKZEngine(&first_, 0), SetKZEngine(&second_, 1)}),
+            (Ids{-1, 0, 1}));
   EXPECT_EQ(SetKZEngine(&first_, 1), 2) << "an id, but no place";
-  EXPECT_EQ(KZEngine(0), &first_);
-  EXPECT_EQ(KZEngine(1), &second_);
-  for (const unsigned none : {2U, 65535U})
-    EXPECT_EQ(KZEngine(static_cast<std::uint16_t>(none)), nullptr);
-  EXPECT_EQ(KZDTBEngine(0), nullptr);
-  EXPECT_EQ(KZDTBEngine(1), &second_);
+  EXPECT_EQ((Engines{KZEngine(0), KZEngine(1), KZEngine(2), KZEngine(65535)}),
+            (Engines{&first_, &second_, nullptr, nullptr}));
+  EXPECT_EQ((Engines{KZDTBEngine(0), KZDTBEngine(1)}), (Engines{nullptr, &second_}));
 
   FreeEngineHandler(2);
   FreeEngineHandler(0);
@@ -48,8 +47,7 @@ TEST_F(EngineRegistry, HoldsTwoEngines) {
 TEST_F(EngineRegistry, KeepsIdsWithoutATable) {
   for (const int entries : {-1, 0, 1, 2, 32767}) {
     EXPECT_EQ(kz_data_init(static_cast<std::int16_t>(entries)), 1);
-    EXPECT_EQ(SetKZEngine(&first_, 1), 0);
-    EXPECT_EQ(SetKZEngine(&second_, 1), 1);
+    EXPECT_EQ((Ids{SetKZEngine(&first_, 1), SetKZEngine(&second_, 1)}), (Ids{0, 1}));
     EXPECT_EQ(kz_data_init(2), 1) << "the table stays";
     EXPECT_EQ(KZEngine(1), &second_);
     kz_data_free();
@@ -76,19 +74,14 @@ TEST_F(EngineRegistry, FailsWhenAllIdsAreTaken) {
 
 TEST(GenId, IsEightIndependentPools) {
   CGenId ids;
-  EXPECT_EQ(ids.GetId(1), 0);
-  EXPECT_EQ(ids.GetId(1), 1);
-  EXPECT_EQ(ids.GetId(2), 0);
-  EXPECT_EQ(ids.GetId(0x81), 2) << "free in both pools";
-  EXPECT_EQ(ids.GetId(0x80), 0);
+  EXPECT_EQ((Ids{ids.GetId(1), ids.GetId(1), ids.GetId(2)}), (Ids{0, 1, 0}));
+  EXPECT_EQ((Ids{ids.GetId(0x81), ids.GetId(0x80)}), (Ids{2, 0})) << "free in both pools";
   ids.DelId(1, 2);
-  EXPECT_EQ(ids.GetId(0x81), 3) << "taken in one of them";
-  EXPECT_EQ(ids.GetId(1), 2);
+  EXPECT_EQ((Ids{ids.GetId(0x81), ids.GetId(1)}), (Ids{3, 2})) << "taken in one of them";
   ids.DelId(0xFF, 0);
   EXPECT_EQ(ids.GetId(0xFF), 0);
   for (int id = 1; id < 256; ++id) EXPECT_EQ(ids.GetId(4), id);
-  EXPECT_EQ(ids.GetId(4), -1);
-  EXPECT_EQ(ids.GetId(6), -1);
+  EXPECT_EQ((Ids{ids.GetId(4), ids.GetId(6)}), (Ids{-1, -1}));
   ids.DelId(4, 255);
   EXPECT_EQ(ids.GetId(6), 255);
   EXPECT_EQ(CGenId().GetId(0), 0);
