@@ -8,6 +8,7 @@
 #include "text/literal.h"
 
 using kz::operator""_1251;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -90,9 +91,7 @@ TEST(Entry, TakesDecorationsOffASynonym) {
                         {"", 0, "", "", ""}};
   CDicEntry entry;
   for (const Case& c : cases) {
-    char shown[64];
-    char labels[64];
-    char references[64];
+    char shown[64], labels[64], references[64];
     *std::copy(c.shown.begin(), c.shown.end(), shown) = 0;
     EXPECT_EQ(DicEntryGetSynonymValues(&entry, shown, labels, references), c.flag) << c.shown;
     EXPECT_EQ(labels, c.labels);
@@ -100,9 +99,7 @@ TEST(Entry, TakesDecorationsOffASynonym) {
     EXPECT_EQ(references, c.references);
   }
   const ZCString shared(U"a)слово"_1251.data());
-  ZCString text = shared;
-  ZCString labels;
-  ZCString references;
+  ZCString text = shared, labels, references;
   entry.GetSynonymValues(text, labels, references);
   EXPECT_STREQ(text, U"слово"_1251.data());
   EXPECT_STREQ(shared, U"a)слово"_1251.data()) << "other holders of the text keep it";
@@ -124,9 +121,7 @@ TEST(Entry, TellsGrammarCodesFromLetters) {
     entry.Build("w", c.part, "", nullptr);
     std::string openings, targets;
     for (const std::string_view at :
-         {std::string_view("A"), std::string_view("z"), std::string_view("A)"),
-          std::string_view("A1"), U"Д"_1251, U"Д)"_1251, U"Д1"_1251, std::string_view("1"),
-          std::string_view("")}) {
+         {"A"sv, "z"sv, "A)"sv, "A1"sv, U"Д"_1251, U"Д)"_1251, U"Д1"_1251, "1"sv, ""sv}) {
       const int code = entry.IsSynPartCode(at.data());
       if (code == static_cast<unsigned char>(*at.data())) openings += at;
     }

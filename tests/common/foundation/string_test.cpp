@@ -1,7 +1,6 @@
 // ZCString: sharing, locking, tags and buffers; searches and comparisons.
 #include "kz/string.h"
 
-#include <algorithm>
 #include <climits>
 #include <cstring>
 #include <string>

@@ -49,21 +49,17 @@ class Table : public CGrSrcWordFlex {
   using CGrSrcWordFlex::GetWord;
 };
 
-class InflectionTest : public testing::Test {
+class InflectionTest : public testing::Test, public kz::test::TempDir {
  protected:
-  std::string write(const std::string& name, std::string_view contents) const {
-    return dir_.write(name, contents);
-  }
-  std::string read(const std::string& name) const { return dir_.read(name); }
-  bool exists(const std::string& name) const { return std::filesystem::exists(dir_.file(name)); }
+  bool exists(const std::string& name) const { return std::filesystem::exists(file(name)); }
   std::int16_t load(CGrSrcWordFlex& table, std::int16_t flag = 1) const {
-    return table.Load("ru.Dat", dir_.file("").c_str(), flag);
+    return table.Load("ru.Dat", file("").c_str(), flag);
   }
   // Loads a compiled table without a text beside it: refused, or every entry can be written.
   int load_alone(const std::string& contents) const {
     write("alone.Dat", contents);
     Table table;
-    const int result = table.Load("alone.Dat", dir_.file("").c_str(), 1);
+    const int result = table.Load("alone.Dat", file("").c_str(), 1);
     const std::vector<Entry> entries = entries_of(table);
     EXPECT_TRUE(result == 0 || (result == 195 && entries.empty()));
     for (const auto& [ending, records] : entries) {
@@ -72,8 +68,6 @@ class InflectionTest : public testing::Test {
     }
     return result;
   }
-
-  kz::test::TempDir dir_;
 };
 
 TEST(Inflection, ALineOfTheTextGivesItsRecordsAndTheyAreWrittenBack) {
@@ -153,9 +147,9 @@ TEST_F(InflectionTest, TheFirstLoadCompilesTheTableAndLaterOnesReadThat) {
   EXPECT_EQ(first.Find(U"и"_1251.data(), 0)->attributes[0][0], 3u) << "the later line";
   EXPECT_EQ(first.GetFirstFlex()->length, std::strlen(first.GetFirstFlex()->ending));
   EXPECT_EQ(read("ru.Dat"), compiled(entries));
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.file("")), {}), 2);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(file("")), {}), 2);
 
-  std::filesystem::remove(dir_.file("ru.txt"));
+  std::filesystem::remove(file("ru.txt"));
   Table second;
   ASSERT_EQ(load(second), 0);
   EXPECT_THAT(entries_of(second), testing::UnorderedElementsAreArray(entries));
@@ -188,16 +182,15 @@ TEST_F(InflectionTest, ADamagedCompiledTableIsMadeAnewOrRefused) {
 }
 
 TEST_F(InflectionTest, LoadFindsItsFilesOrSays195) {
-  EXPECT_EQ(load(*std::make_unique<Table>()), 195);
-  EXPECT_EQ(Table().Load(nullptr, nullptr, 1), 195);
-  EXPECT_EQ(Table().Load("", dir_.file("").c_str(), 1), 195);
-  write("ru.txt", "ed V\n");
-  EXPECT_EQ(Table().Load("ru.dat", dir_.file("").c_str(), 1), 195);
-
-  std::filesystem::create_directory(dir_.file("x.Dat.Dat"));
-  write("x.Dat.txt", "es NM\n");
   Table table;
-  EXPECT_EQ(table.Load("x.Dat.Dat", dir_.file("").c_str(), 1), 0);
+  EXPECT_EQ(load(table), 195);
+  EXPECT_EQ(table.Load(nullptr, nullptr, 1), 195);
+  write("ru.txt", "ed V\n");
+  for (const char* name : {"", "ru.dat"}) EXPECT_EQ(table.Load(name, file("").c_str(), 1), 195);
+
+  std::filesystem::create_directory(file("x.Dat.Dat"));
+  write("x.Dat.txt", "es NM\n");
+  EXPECT_EQ(table.Load("x.Dat.Dat", file("").c_str(), 1), 0);
   EXPECT_EQ(load(table), 0);  // holds entries already
   EXPECT_EQ(entries_of(table), (std::vector<Entry>{{"es", {{1, 0}}}}));
 }
@@ -205,7 +198,7 @@ TEST_F(InflectionTest, LoadFindsItsFilesOrSays195) {
 TEST_F(InflectionTest, ATableThatCannotBeWrittenStaysInMemory) {
   write("ru.txt", "ed V\n");
   write("ru.Dat", "damaged");
-  ZCFile other(dir_.file("ru.Dat").c_str(), 0x8040);
+  ZCFile other(file("ru.Dat").c_str(), 0x8040);
   Table table;
   EXPECT_EQ(load(table), 0);
   EXPECT_EQ(entries_of(table).size(), 1u);
@@ -213,7 +206,7 @@ TEST_F(InflectionTest, ATableThatCannotBeWrittenStaysInMemory) {
   EXPECT_EQ(read("ru.Dat"), "damaged");
   other.Close();
 
-  std::filesystem::permissions(dir_.file("ru.Dat"), std::filesystem::perms::owner_read);
+  std::filesystem::permissions(file("ru.Dat"), std::filesystem::perms::owner_read);
   EXPECT_EQ(load(*std::make_unique<Table>()), 0);
   EXPECT_EQ(read("ru.Dat"), "damaged");
 }
@@ -236,7 +229,7 @@ TEST_F(InflectionTest, WithFlagZeroTheFirstLookUpLoads) {
 
   // A look-up that fails to load is the last that tries.
   ASSERT_EQ(load(late, 0), 0);
-  for (const char* name : {"ru.Dat", "ru.txt"}) std::filesystem::remove(dir_.file(name));
+  for (const char* name : {"ru.Dat", "ru.txt"}) std::filesystem::remove(file(name));
   EXPECT_EQ(late.Find("bed", 0), nullptr);
   write("ru.txt", "ed V\n");
   EXPECT_EQ(late.Find("bed", 0), nullptr);
@@ -251,13 +244,13 @@ TEST_F(InflectionTest, TheCountOfTheCompiledFormIsUnsignedAndBounded) {
   };
   write("ru.txt", lines(33000));
   ASSERT_EQ(load(*std::make_unique<Table>()), 0);
-  std::filesystem::remove(dir_.file("ru.txt"));
+  std::filesystem::remove(file("ru.txt"));
   Table table;
   ASSERT_EQ(load(table), 0);
   EXPECT_EQ(entries_of(table).size(), 33000u);
   EXPECT_STREQ(table.Find("aa32999", 0)->ending, "a32999");
 
-  std::filesystem::remove(dir_.file("ru.Dat"));
+  std::filesystem::remove(file("ru.Dat"));
   write("ru.txt", lines(65536));
   Table large;
   ASSERT_EQ(load(large), 0);

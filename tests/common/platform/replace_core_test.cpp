@@ -8,9 +8,10 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <memory>
 #include <set>
 #include <string>
-#include <vector>
+#include <tuple>
 
 #include "tests/support/temp_dir.h"
 #include "tests/support/unprivileged.h"
@@ -34,62 +35,54 @@ struct stat status_of(const std::string& name) {
   return status;
 }
 
-std::set<std::string> names_in(const std::string& directory) {
-  std::set<std::string> names;
+using Names = std::set<std::string>;
+
+Names names_in(const std::string& directory) {
+  Names names;
   for (const auto& entry : fs::directory_iterator(directory)) names.insert(entry.path().filename());
   return names;
 }
 
-struct Situation {
-  const char* name;
-  unsigned directory_mode;
-  unsigned mode;
-  uid_t owner;      // of the file
-  bool privileged;  // as the superuser
-  bool replaced;    // by another file; otherwise written into
-};
-
-class ReplaceTest : public testing::TestWithParam<Situation> {};
-
 // Owner, permissions and symbolic links stay in each case; another hard link sees the new contents
 // only when the file is written into.
-TEST_P(ReplaceTest, KeepsWhatTheTargetIs) {
-  const Situation& situation = GetParam();
+TEST(Replace, KeepsWhatTheTargetIs) {
   if (geteuid() != 0) GTEST_SKIP() << "not the superuser";
-  const TempDir dir;
-  const std::string target = dir.write("target", "old contents");
-  fs::create_hard_link(target, dir.file("twin"));
-  fs::create_symlink("target", dir.file("link"));
-  ASSERT_EQ(chown(target.c_str(), situation.owner, 7), 0);
-  ASSERT_EQ(chmod(target.c_str(), situation.mode), 0);
-  ASSERT_EQ(chmod(dir.file("").c_str(), situation.directory_mode), 0);
-  const struct stat before = status_of(target);
-  for (const bool exclusive : {false, true}) {
-    if (situation.privileged) {
-      EXPECT_TRUE(replace(dir.file("link"), {.exclusive = exclusive}));
-    } else {
-      const Unprivileged rights;
-      EXPECT_TRUE(replace(dir.file("link"), {.exclusive = exclusive}));
+  const struct {
+    unsigned directory_mode, mode;
+    uid_t owner;      // of the file
+    bool privileged;  // as the superuser
+    bool replaced;    // by another file; otherwise written into
+  } cases[] = {{0755, 0640, 0, true, true},
+               {0755, 04750, 1234, true, true},
+               {0777, 0666, 1234, false, false},
+               {0755, 0666, 1234, false, false},
+               {01777, 0666, 1234, false, false}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(&c - cases);
+    const TempDir dir;
+    const std::string target = dir.write("target", "old contents");
+    fs::create_hard_link(target, dir.file("twin"));
+    fs::create_symlink("target", dir.file("link"));
+    ASSERT_EQ(chown(target.c_str(), c.owner, 7), 0);
+    ASSERT_EQ(chmod(target.c_str(), c.mode), 0);
+    ASSERT_EQ(chmod(dir.file("").c_str(), c.directory_mode), 0);
+    const struct stat before = status_of(target);
+    for (const bool exclusive : {false, true}) {
+      {
+        const auto rights = c.privileged ? nullptr : std::make_unique<Unprivileged>();
+        EXPECT_TRUE(replace(dir.file("link"), {.exclusive = exclusive}));
+      }
+      EXPECT_EQ(dir.read("target"), "new");
+      EXPECT_EQ(dir.read("twin"), c.replaced ? "old contents" : "new");
+      const struct stat after = status_of(target);
+      EXPECT_EQ(after.st_mode, before.st_mode);
+      EXPECT_EQ(after.st_uid, before.st_uid);
+      EXPECT_EQ(after.st_gid, before.st_gid);
+      EXPECT_EQ(after.st_ino != before.st_ino, c.replaced);
+      EXPECT_EQ(names_in(dir.file("")), (Names{"target", "twin", "link"}));
     }
-    EXPECT_EQ(dir.read("target"), "new");
-    EXPECT_EQ(dir.read("twin"), situation.replaced ? "old contents" : "new");
-    const struct stat after = status_of(target);
-    EXPECT_EQ(after.st_mode, before.st_mode);
-    EXPECT_EQ(after.st_uid, before.st_uid);
-    EXPECT_EQ(after.st_gid, before.st_gid);
-    EXPECT_EQ(after.st_ino != before.st_ino, situation.replaced);
-    EXPECT_EQ(names_in(dir.file("")), (std::set<std::string>{"target", "twin", "link"}));
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, ReplaceTest,
-    testing::Values(Situation{"own", 0755, 0640, 0, true, true},
-                    Situation{"of_another_by_the_superuser", 0755, 04750, 1234, true, true},
-                    Situation{"of_another_by_a_user", 0777, 0666, 1234, false, false},
-                    Situation{"in_a_closed_directory", 0755, 0666, 1234, false, false},
-                    Situation{"in_a_sticky_directory", 01777, 0666, 1234, false, false}),
-    [](const auto& each) { return each.param.name; });
 
 TEST(Replace, MakesNewFilesAlsoBehindLinksThatLeadNowhere) {
   const TempDir dir;
@@ -100,7 +93,7 @@ TEST(Replace, MakesNewFilesAlsoBehindLinksThatLeadNowhere) {
   umask(mask);
   EXPECT_EQ(dir.read("made"), "new");
   EXPECT_EQ(status_of(dir.file("made")).st_mode & 07777U, 0640U);
-  EXPECT_EQ(names_in(dir.file("")), (std::set<std::string>{"first", "made", "second"}));
+  EXPECT_EQ(names_in(dir.file("")), (Names{"first", "made", "second"}));
 }
 
 TEST(Replace, RefusesWithoutATrace) {
@@ -110,11 +103,7 @@ TEST(Replace, RefusesWithoutATrace) {
   chmod(dir.write("read-only", "old").c_str(), 0444);
   fs::create_symlink("loop", dir.file("loop"));
   fs::create_directory(dir.file("directory"));
-  struct {
-    const char* name;
-    ReplaceOptions options;
-    int error;
-  } const cases[] = {
+  const std::tuple<const char*, ReplaceOptions, int> cases[] = {
       {"read-only", {}, EACCES},
       {"read-only", {.exclusive = true}, EACCES},
       {"directory", {}, EISDIR},
@@ -123,13 +112,12 @@ TEST(Replace, RefusesWithoutATrace) {
       {"none/file", {}, ENOENT},
       {"exists/file", {}, ENOTDIR},
       {"exists", {.must_be_new = true}, EEXIST},
-      {"", {}, EISDIR},
-  };
-  const std::set<std::string> before = names_in(dir.file(""));
-  for (const auto& c : cases) {
+      {"", {}, EISDIR}};
+  const Names before = names_in(dir.file(""));
+  for (const auto& [name, options, error] : cases) {
     errno = 0;
-    EXPECT_FALSE(replace(dir.file(c.name), c.options)) << c.name;
-    EXPECT_EQ(errno, c.error) << c.name;
+    EXPECT_FALSE(replace(dir.file(name), options)) << name;
+    EXPECT_EQ(errno, error) << name;
   }
   EXPECT_FALSE(replace(""));
   if (geteuid() == 0) {
@@ -146,7 +134,7 @@ TEST(Replace, UnfinishedFilesHaveNamesOfTheirOwnAndGoWithTheirMaker) {
   const TempDir dir;
   dir.write("target", "old");
   const auto unfinished = [&] {
-    std::set<std::string> names = names_in(dir.file(""));
+    Names names = names_in(dir.file(""));
     names.erase("target");
     for (const std::string& name : names) {
       EXPECT_TRUE(name.starts_with(kz::platform::kUnfinishedPrefix)) << name;
@@ -154,9 +142,7 @@ TEST(Replace, UnfinishedFilesHaveNamesOfTheirOwnAndGoWithTheirMaker) {
     return names;
   };
   {
-    Replacement first;
-    Replacement second;
-    Replacement third;
+    Replacement first, second, third;
     for (Replacement* file : {&first, &second, &third}) {
       ASSERT_TRUE(file->begin(dir.file("target").c_str(), {}));
       ASSERT_TRUE(file->write("longer than what was there"));

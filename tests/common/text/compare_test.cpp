@@ -7,7 +7,6 @@
 #include <random>
 #include <string>
 #include <type_traits>
-#include <utility>
 
 #include "kz/charclass.h"
 #include "kz/codepage.h"

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -139,10 +140,8 @@ TEST(LanguageOfAWord, IsNotRussianOnATie) {
 
 TEST(GrammaticalCases, HaveAnIndexAndALetter) {
   for (unsigned mask = 0; mask < 256; ++mask) {
-    int wanted = 0;
-    for (int bit = 5; bit >= 1; --bit) wanted = mask >> bit & 1 ? bit : wanted;
-    EXPECT_EQ(x_case(mask), wanted) << mask;
-
+    const unsigned oblique = mask & 0x3E;
+    EXPECT_EQ(x_case(mask), oblique == 0 ? 0 : std::countr_zero(oblique)) << mask;
     std::string letters;
     for (int bit = 0; bit < 6; ++bit) {
       if (mask >> bit & 1) letters += U"ИРДВТП"_1251[static_cast<std::size_t>(bit)];
