@@ -2,9 +2,12 @@
 #ifndef KZ_TESTS_TOOLS_KZDIC_RUN_H
 #define KZ_TESTS_TOOLS_KZDIC_RUN_H
 
-#include <filesystem>
+#include <sys/wait.h>
+
+#include <cstdlib>
 #include <string>
-#include <vector>
+
+#include "tests/support/temp_dir.h"
 
 struct Outcome {
   int status = -1;
@@ -12,22 +15,18 @@ struct Outcome {
   std::string err;
 };
 
-// A directory that exists as long as the object; file names below are relative to it.
-class Workplace {
+// File names on command lines are relative to the directory.
+class Workplace : public kz::test::TempDir {
  public:
-  Workplace();
-  ~Workplace();
-  Workplace(const Workplace&) = delete;
-  Workplace& operator=(const Workplace&) = delete;
-
-  Outcome kzdic(const std::vector<std::string>& arguments, const std::string& input = {}) const;
-  void write(const std::string& name, const std::string& bytes) const;
-  std::string read(const std::string& name) const;
-  bool exists(const std::string& name) const;
-  std::string path(const std::string& name) const { return (directory_ / name).string(); }
-
- private:
-  std::filesystem::path directory_;
+  // `arguments` is text of the shell, which may quote and redirect.
+  Outcome kzdic(const std::string& arguments, const std::string& input = {}) const {
+    write("stdin", input);
+    const std::string command =
+        "cd " + file("") + " && LC_ALL=C " KZDIC_PATH " <stdin >stdout 2>stderr " + arguments;
+    const int status = std::system(command.c_str());
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, read("stdout"), read("stderr")};
+  }
+  bool exists(const std::string& name) const { return std::filesystem::exists(file(name)); }
 };
 
 #endif  // KZ_TESTS_TOOLS_KZDIC_RUN_H
