@@ -5,9 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <fstream>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -28,10 +26,11 @@ inline std::string alphabet(int n) {
   return letters;
 }
 
-// Slot of a character, n when it is no letter of the alphabet.
-inline int slot(char c, int n) {
-  if (n == 32 && c == static_cast<char>(U'ё'_1251)) c = static_cast<char>(U'е'_1251);
-  const std::size_t found = c == 0 ? std::string::npos : alphabet(n).find(c);
+// Slot of a character of a word, n when there is none or it is no letter of the alphabet.
+inline int slot(const std::string& word, std::size_t at, int n) {
+  if (at >= word.size() || word[at] == 0) return n;
+  const bool yo = n == 32 && word[at] == static_cast<char>(U'ё'_1251);
+  const std::size_t found = alphabet(n).find(yo ? static_cast<char>(U'е'_1251) : word[at]);
   return found == std::string::npos ? n : static_cast<int>(found);
 }
 
@@ -48,6 +47,47 @@ inline std::uint32_t five_character_key(const std::string& word) {
     key = key << 6 | code;
   }
   return key;
+}
+
+inline void put_number(std::string& out, std::size_t at, std::size_t width, std::int64_t value) {
+  out.resize(std::max(out.size(), at + width));
+  for (std::size_t i = 0; i < width; ++i) out[at + i] = static_cast<char>(value >> 8 * i);
+}
+
+// The index over words at positions in a file. The first word of a group has its cell; words that
+// begin with digits belong to the letter after them.
+inline std::string index_image(int depth, int n,
+                               const std::vector<std::pair<std::string, std::int64_t>>& words) {
+  std::string image;
+  if (depth == 5) {
+    std::int64_t last = -1;
+    for (const auto& [word, position] : words) {
+      const std::int64_t key = five_character_key(word);
+      if (key == last) continue;
+      put_number(image, image.size(), 4, last = key);
+      put_number(image, image.size(), 4, position);
+    }
+    return image;
+  }
+  image.assign(static_cast<std::size_t>(n * (n + 1) * (depth == 3 ? n + 1 : 1)) * 4, '\xFF');
+  const auto offer = [&](int i, int j, int k, std::int64_t position) {
+    const int number = depth == 3 ? (i * (n + 1) + j) * (n + 1) + k : i * (n + 1) + j;
+    const auto at = static_cast<std::size_t>(number) * 4;
+    if (image.compare(at, 4, "\xFF\xFF\xFF\xFF") == 0) put_number(image, at, 4, position);
+  };
+  std::int64_t digits = -1;
+  for (const auto& [word, position] : words) {
+    const int i = slot(word, 0, n), j = slot(word, 1, n);
+    if (i == n) {
+      if (digits < 0) digits = position;
+      continue;
+    }
+    offer(i, n, n, digits >= 0 ? digits : position);
+    digits = -1;
+    if (j != n) offer(i, j, n, position);
+    offer(i, j, depth == 3 ? slot(word, 2, n) : n, position);
+  }
+  return image;
 }
 
 struct Record {
@@ -70,58 +110,69 @@ struct DictionaryFile {
 
   bool packed() const { return version >= 539 && (packing == 1 || packing == 3); }
 
-  // Place of a word in the file: its group (digits, then slots with "no letter" first, or the
-  // five-character key), then its bytes.
+  // Where the group of a word is among the others: digits go together, "no letter" comes first.
   std::array<std::int64_t, 3> group(const std::string& word) const {
     if (depth == 5) return {five_character_key(word), 0, 0};
     std::array<std::int64_t, 3> result = {-1, -1, -1};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(depth) && i < word.size(); ++i) {
-      const int s = slot(word[i], alphabet_size);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(depth); ++i) {
+      const int s = slot(word, i, alphabet_size);
       result[i] = s == alphabet_size ? -1 : s;
-      if (i == 0 && result[0] == -1) break;  // digits go together
+      if (result[0] == -1) break;
     }
     return result;
   }
 
-  void sort() {
+  std::string bytes() {
     std::stable_sort(records.begin(), records.end(), [this](const Record& a, const Record& b) {
       const auto ga = group(a.word), gb = group(b.word);
       return ga != gb ? ga < gb : a.word < b.word;
     });
-  }
-
-  std::string bytes() {
-    sort();
     std::string out(154, '\0');
-    std::map<std::array<std::int64_t, 3>, std::int32_t> groups;  // position of the first record
+    std::vector<std::pair<std::string, std::int64_t>> places;
     std::string previous;
     for (const Record& record : records) {
-      const auto g = group(record.word);
-      const bool opens = !groups.contains(g);
-      if (opens) groups[g] = static_cast<std::int32_t>(out.size());
+      const bool opens = places.empty() || group(places.back().first) != group(record.word);
+      places.emplace_back(record.word, out.size());
       const std::string text =
           type == 'S' && packed() ? record.word : record.word + '*' + record.rest;
-      if (packed()) {
-        if (opens && fresh_groups) previous.clear();
-        std::size_t count = 0;
-        while (count < shared_max && count < text.size() && count < previous.size() &&
-               text[count] == previous[count]) {
-          ++count;
-        }
-        if (record.word == end_pair_before) out += std::string("\0\x1A", 2);
-        out += static_cast<char>(count);
-        for (const char c : text.substr(count)) out += static_cast<char>(c ^ '\x80');
-        previous = text;
-      } else {
+      if (!packed()) {
         out += '\n' + text;
+        continue;
       }
+      if (opens && fresh_groups) previous.clear();
+      const std::size_t limit = std::min({shared_max, text.size(), previous.size()});
+      const auto same = static_cast<std::size_t>(
+          std::mismatch(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(limit),
+                        previous.begin())
+              .first -
+          text.begin());
+      if (record.word == end_pair_before) out += std::string("\0\x1A", 2);
+      out += static_cast<char>(same);
+      for (const char c : text.substr(same)) out += static_cast<char>(c ^ '\x80');
+      previous = text;
     }
     if (!packed()) out += "\n\n";
-    const auto index_offset = static_cast<std::int32_t>(out.size());
-    out += index(groups);
-    const auto shared_offset = static_cast<std::int32_t>(out.size());
+    const std::size_t index_offset = out.size();
+    out += index_image(depth, alphabet_size, places);
+    const std::size_t shared_offset = out.size();
     out += shared;
-    write_header(out, index_offset, shared_offset, static_cast<std::int32_t>(groups.size()));
+
+    out.replace(0, 44, "KZ Dictionary 3.00 (C) 1997-1998 Corvane    ");
+    out.replace(56, language.size(), language);
+    out[61] = type;
+    out[141] = static_cast<char>(packing);
+    const std::size_t numbers[][3] = {{113, 2, static_cast<std::size_t>(version)},
+                                      {115, 2, static_cast<std::size_t>(depth)},
+                                      {117, 2, static_cast<std::size_t>(alphabet_size)},
+                                      {119, 4, index_offset},
+                                      {123, 4, 154},
+                                      {127, 4, out.size()},
+                                      {142, 4, shared_offset},
+                                      {146, 4, depth == 5 ? (shared_offset - index_offset) / 8 : 0},
+                                      {150, 4, shared.size()}};
+    for (const auto& [at, width, value] : numbers) {
+      put_number(out, at, width, static_cast<std::int64_t>(value));
+    }
     return out;
   }
 
@@ -129,70 +180,6 @@ struct DictionaryFile {
     const std::string all = bytes();
     std::ofstream(path, std::ios::binary) << all;
     return all;
-  }
-
- private:
-  static void put32(std::string& out, std::size_t at, std::int32_t value) {
-    for (std::size_t i = 0; i < 4; ++i) {
-      out[at + i] = static_cast<char>(static_cast<std::uint32_t>(value) >> 8 * i);
-    }
-  }
-  static void put16(std::string& out, std::size_t at, int value) {
-    out[at] = static_cast<char>(value);
-    out[at + 1] = static_cast<char>(value >> 8);
-  }
-
-  std::string index(const std::map<std::array<std::int64_t, 3>, std::int32_t>& groups) const {
-    if (depth == 5) {
-      std::string image(groups.size() * 8, '\0');
-      std::size_t at = 0;
-      for (const auto& [g, position] : groups) {
-        put32(image, at, static_cast<std::int32_t>(g[0]));
-        put32(image, at + 4, position);
-        at += 8;
-      }
-      return image;
-    }
-    const int n = alphabet_size;
-    std::string image(static_cast<std::size_t>(n * (n + 1) * (depth == 3 ? n + 1 : 1)) * 4, '\xFF');
-    const auto offer = [&](std::int64_t i, std::int64_t j, std::int64_t k, std::int32_t position) {
-      const std::int64_t number = depth == 3 ? (i * (n + 1) + j) * (n + 1) + k : i * (n + 1) + j;
-      const auto at = static_cast<std::size_t>(number) * 4;
-      if (image.compare(at, 4, "\xFF\xFF\xFF\xFF") == 0) put32(image, at, position);
-    };
-    std::int32_t digits = -1;
-    for (const auto& [g, position] : groups) {  // in file order: the first one stays
-      if (g[0] < 0) {
-        digits = position;
-        continue;
-      }
-      const auto or_n = [n](std::int64_t s) { return s < 0 ? n : s; };
-      offer(g[0], n, n, digits >= 0 ? digits : position);
-      digits = -1;
-      if (g[1] >= 0) offer(g[0], g[1], n, position);
-      offer(g[0], or_n(g[1]), or_n(g[2]), position);
-    }
-    return image;
-  }
-
-  void write_header(std::string& out, std::int32_t index_offset, std::int32_t shared_offset,
-                    std::int32_t count) const {
-    const auto put = [&out](std::size_t at, const std::string& text) {
-      out.replace(at, text.size(), text);
-    };
-    put(0, "KZ Dictionary 3.00 (C) 1997-1998 Corvane    ");
-    put(56, language);
-    out[61] = type;
-    put16(out, 113, version);
-    put16(out, 115, depth);
-    put16(out, 117, alphabet_size);
-    put32(out, 119, index_offset);
-    put32(out, 123, 154);
-    put32(out, 127, static_cast<std::int32_t>(out.size()));
-    out[141] = static_cast<char>(packing);
-    put32(out, 142, shared_offset);
-    put32(out, 146, depth == 5 ? count : 0);
-    put32(out, 150, static_cast<std::int32_t>(shared.size()));
   }
 };
 

@@ -1,65 +1,15 @@
-// Words that an index can look up, and indexes that are refused before they are read.
+// Indexes that are refused before they are read.
 #include "dictionary/index.h"
 
 #include <gtest/gtest.h>
 
 #include <initializer_list>
 #include <string>
-#include <string_view>
 
 #include "kz/file.h"
 #include "tests/support/temp_dir.h"
-#include "text/literal.h"
-
-using kz::operator""_1251;
 
 namespace {
-
-TEST(IndexPrefix, TakesLowerCaseLettersOfTheLanguage) {
-  struct Kind {
-    const char* language;
-    std::int16_t n;
-  };
-  constexpr Kind kLatin{"ENRU", 26}, kRussian{"RUEN", 32}, kWestern{"DERU", 43}, kNone{"", 26};
-  const struct {
-    Kind kind;
-    std::int16_t depth;
-    std::string_view word;
-    bool taken;
-  } cases[] = {{kLatin, 2, "abZ", true},
-               {kLatin, 2, "aZ", false},
-               {kLatin, 2, "a~", true},
-               {kLatin, 2, "a*Z", true},
-               {kLatin, 2, "", false},
-               {kLatin, 2, "*", false},
-               {kLatin, 2, "!", false},
-               {kLatin, 2, "-a", false},
-               {kLatin, 2, "A", false},
-               {kLatin, 2, "\xE9", false},
-               {kLatin, 3, "abZ", false},
-               {kLatin, 3, "a*Z", true},
-               {kLatin, 3, "a-b", true},
-               {kLatin, 3, "ab!", false},
-               {kLatin, 3, "7", true},
-               {kWestern, 3, "\xE9t\xE9", true},
-               {kRussian, 3, U"ёж"_1251, true},
-               {kRussian, 3, U"Ёж"_1251, false},
-               {kRussian, 3, "ab", false},
-               {kRussian, 5, U"дом-2"_1251, true},
-               {kRussian, 5, U"домик!"_1251, true},
-               {kRussian, 5, U"дом!"_1251, false},
-               {kRussian, 5, "1-2", true},
-               {kRussian, 5, "-1", false},
-               {kRussian, 5, "doma", false},
-               // Without a language, the letters of the alphabet.
-               {kNone, 2, "word", true},
-               {kNone, 2, "\xE9", false}};
-  for (const auto& c : cases) {
-    CDicIndex index('R');
-    ASSERT_EQ(index.Init(0, c.kind.language, "C", c.kind.n, 0, c.depth, 539, 154, 0), 1);
-    EXPECT_EQ(kz::IndexCore(index).set_prefix(std::string(c.word).c_str()), c.taken) << c.word;
-  }
-}
 
 TEST(DamagedIndex, MustFitTheFileBeforeAnythingIsAllocated) {
   const struct {

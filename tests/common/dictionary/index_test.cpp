@@ -2,14 +2,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <iterator>
-#include <map>
+#include <random>
 #include <string>
 #include <string_view>
 
 #include "kz/dic_error.h"
 #include "kz/dic_index.h"
 #include "kz/file.h"
+#include "tests/common/dictionary/dictionary_file.h"
 #include "tests/common/dictionary/scratch_file.h"
 #include "text/literal.h"
 
@@ -94,16 +94,17 @@ class Writer {
     file_.Seek(1000, 0);
   }
 
-  bool add(std::string_view word) {
-    index_.SetFileIndex(file_, std::string(word).c_str());
+  bool add(const std::string& word) {
+    index_.SetFileIndex(file_, word.c_str());
     file_.Seek(10, 1);
     return index_.IsIndexChanged() != 0;
   }
 
-  Bytes image() {
+  std::string image() {
     file_.Seek(0, 0);
     EXPECT_EQ(index_.Write(file_), 0);
-    return scratch_.read();
+    const Bytes bytes = scratch_.read();
+    return {bytes.begin(), bytes.end()};
   }
 
  private:
@@ -112,108 +113,50 @@ class Writer {
   CDicIndex index_{'R'};
 };
 
-std::int32_t cell(const Bytes& image, int number) {
-  std::uint32_t value = 0;
-  for (std::size_t i = 4; i-- > 0;) {
-    value = value << 8 | image.at(static_cast<std::size_t>(number) * 4 + i);
-  }
-  return static_cast<std::int32_t>(value);
-}
-
-// Checks that an image holds the given cells and -1 everywhere else.
-void expect_cells(const Bytes& image, std::size_t size, const std::map<int, std::int32_t>& cells) {
-  ASSERT_EQ(image.size(), size);
-  for (int i = 0; i < static_cast<int>(size / 4); ++i) {
-    const auto expected = cells.find(i);
-    EXPECT_EQ(cell(image, i), expected == cells.end() ? -1 : expected->second) << i;
-  }
-}
-
-TEST(IndexImage, Depth2KeepsRowsOfSecondLettersWithTheHeadLast) {
-  Writer writer("ENRU", 26, 2);
-  EXPECT_TRUE(writer.add("b"));        // 1000: row head
-  EXPECT_FALSE(writer.add("b-x"));     // a mark counts as no letter
-  EXPECT_FALSE(writer.add("bZ"));      // nor has a capital a slot
-  EXPECT_TRUE(writer.add("ba"));       // 1030
-  EXPECT_FALSE(writer.add("bat"));     // same two letters
-  EXPECT_TRUE(writer.add("bz"));       // 1050
-  EXPECT_FALSE(writer.add("Bz"));      // no group without a first letter
-  EXPECT_TRUE(writer.add("ca*rest"));  // 1070: head and pair together
-  EXPECT_TRUE(writer.add("d*a"));      // 1080: the word ends before '*'
-  expect_cells(writer.image(), 2808,
-               {{27 + 26, 1000},
-                {27 + 0, 1030},
-                {27 + 25, 1050},
-                {54 + 26, 1070},
-                {54 + 0, 1070},
-                {81 + 26, 1080}});
-}
-
-TEST(IndexImage, Depth3KeepsTheSameOneLevelDown) {
-  Writer writer("RU", 32, 3);
-  const auto at = [](int i, int j, int k) { return (i * 33 + j) * 33 + k; };
-  EXPECT_TRUE(writer.add(U"ежа"_1251));   // 1000: row, pair and group
-  EXPECT_FALSE(writer.add(U"ёжа"_1251));  // the same slots
-  EXPECT_TRUE(writer.add(U"ежи"_1251));   // 1020
-  EXPECT_TRUE(writer.add(U"ел"_1251));    // 1030: a pair alone
-  EXPECT_TRUE(writer.add(U"ель"_1251));   // 1040
-  EXPECT_TRUE(writer.add(U"и-а"_1251));   // 1050: a mark, then a letter
-  EXPECT_FALSE(writer.add(U"и.а"_1251));
-  EXPECT_TRUE(writer.add(U"и-б"_1251));  // 1070
-  EXPECT_TRUE(writer.add(U"из"_1251));   // 1080
-  EXPECT_TRUE(writer.add(U"и-я"_1251));  // 1090: too late, but the cell is free
-  EXPECT_FALSE(writer.add(U"и-б"_1251));
-  EXPECT_FALSE(writer.add(U"из-за"_1251));
-  expect_cells(writer.image(), 139392,
-               {{at(5, 32, 32), 1000},
-                {at(5, 6, 32), 1000},
-                {at(5, 6, 0), 1000},
-                {at(5, 6, 8), 1020},
-                {at(5, 11, 32), 1030},
-                {at(5, 11, 28), 1040},
-                {at(8, 32, 32), 1050},
-                {at(8, 32, 0), 1050},
-                {at(8, 32, 1), 1070},
-                {at(8, 7, 32), 1080},
-                {at(8, 32, 31), 1090}});
-}
-
-TEST(IndexImage, Depth5ListsKeysOfFiveSixBitCodes) {
-  Writer writer("RU", 32, 5);
-  writer.add("1");             // every code 0
-  writer.add(U"а"_1251);       // 8
-  writer.add(U"а-б*"_1251);    // 8 4 9
-  writer.add(U"абвгд"_1251);   // 8 9 10 11 12
-  writer.add(U"абвгде"_1251);  // the same five
-  writer.add(U"абв Я"_1251);   // a capital cannot be indexed
-  writer.add(U"я ')/"_1251);   // 39 1 2 3 6
-  const auto key = [](std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d,
-                      std::uint32_t e) { return a << 24 | b << 18 | c << 12 | d << 6 | e; };
-  Bytes expected(5 * 8);
-  const std::pair<std::uint32_t, std::uint32_t> records[] = {{0, 1000},
-                                                             {key(8, 0, 0, 0, 0), 1010},
-                                                             {key(8, 4, 9, 0, 0), 1020},
-                                                             {key(8, 9, 10, 11, 12), 1030},
-                                                             {key(39, 1, 2, 3, 6), 1060}};
-  for (std::size_t i = 0; i < 5; ++i) {
-    put_number(expected, i * 8, 4, records[i].first);
-    put_number(expected, i * 8 + 4, 4, records[i].second);
-  }
-  EXPECT_EQ(writer.image(), expected);
-}
-
-TEST(IndexImage, Depth5HoldsAnyNumberOfKeys) {
-  Writer writer("RU", 32, 5);
-  for (int i = 0; i < 2048; ++i) {
-    const int letters[] = {224 + i / 1024, 224 + i / 32 % 32, 224 + i % 32};
-    EXPECT_TRUE(writer.add(std::string(std::begin(letters), std::end(letters))));
-  }
-  const Bytes image = writer.image();
-  ASSERT_EQ(image.size(), 2048u * 8);
-  for (int i = 0; i < 2048; ++i) {
-    ASSERT_EQ(cell(image, 2 * i),
-              (8 + i / 1024) << 24 | (8 + i / 32 % 32) << 18 | (8 + i % 32) << 12);
-    ASSERT_EQ(cell(image, 2 * i + 1), 1000 + 10 * i);
+TEST(IndexImage, HasTheFirstWordOfEveryGroup) {
+  std::mt19937 random(4);
+  const struct {
+    const char* language;
+    std::int16_t n, depth;
+    std::size_t words;
+  } cases[] = {{"ENRU", 26, 2, 200}, {"FR", 43, 2, 200}, {"ENRU", 26, 3, 200},
+               {"RU", 32, 3, 200},   {"FR", 43, 3, 200}, {"RU", 32, 5, 4000}};
+  for (const auto& [language, n, depth, count] : cases) {
+    const std::string all = alphabet(n);
+    const std::string first = depth == 5 ? all : all.substr(0, 5) + all.back();
+    // Marks, the end of a word, a capital, and in Russian the letter that shares the slot of ye.
+    const std::string next = first + "-. *" + (n == 32 ? "\xC0\xB8" : "Z");
+    std::vector<std::string> words;
+    for (std::size_t i = 0; i < count; ++i) {
+      words.emplace_back(1, first[random() % first.size()]);
+      for (std::size_t more = random() % 5; more > 0; --more) {
+        words.back() += next[random() % next.size()];
+      }
+    }
+    const auto cut = [](const std::string& word) { return word.substr(0, word.find('*')); };
+    DictionaryFile order;
+    order.depth = depth;
+    order.alphabet_size = n;
+    std::stable_sort(words.begin(), words.end(), [&](const auto& a, const auto& b) {
+      return order.group(cut(a)) < order.group(cut(b));
+    });
+    // Words with a mark that come after the pairs of their row, and one without a first letter.
+    const std::string last(1, all.back());
+    if (depth == 3) words.insert(words.end(), {last + '-' + last, last + "-a", last + "-y", "Aa"});
+    Writer writer(language, n, depth);
+    std::vector<std::pair<std::string, std::int64_t>> places;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+      const std::string word = cut(words[i]);
+      const std::string before = i < 250 ? index_image(depth, n, places) : "";
+      // No key has a capital, no cell a word that begins with one.
+      const bool indexed = depth == 5 ? word.substr(0, 5).find('\xC0') == word.npos : word != "Aa";
+      if (indexed) places.emplace_back(word, 1000 + 10 * i);
+      const bool added = writer.add(words[i]);
+      if (i < 250) {
+        EXPECT_EQ(added, index_image(depth, n, places) != before) << words[i];
+      }
+    }
+    EXPECT_TRUE(writer.image() == index_image(depth, n, places)) << language << depth;
   }
 }
 
@@ -224,7 +167,7 @@ TEST(IndexImage, HasTheDocumentedSizesAndIsEmptyAtFirst) {
   } cases[] = {{26, 2, 2808},   {32, 2, 4224},   {43, 2, 7568}, {26, 3, 75816},
                {32, 3, 139392}, {43, 3, 332992}, {43, 5, 0}};
   for (const auto& c : cases) {
-    EXPECT_EQ(Writer("FR", c.alphabet_size, c.depth).image(), Bytes(c.size, 0xFF));
+    EXPECT_EQ(Writer("FR", c.alphabet_size, c.depth).image(), std::string(c.size, '\xFF'));
   }
 }
 

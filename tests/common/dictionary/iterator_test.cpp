@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -88,30 +89,34 @@ class IteratorTest : public testing::Test {
   }
 
   DictionaryFile random_dictionary() {
-    DictionaryFile file;
-    const int kind = static_cast<int>(random_() % 5);
-    const std::string letters[] = {"abcmyz", std::string(U"абеёмюя7"_1251),
-                                   std::string(U"aäbcüuzß7"_1252), "abyz19",
-                                   std::string(U"aàçdéeoœpz7"_1252)};
-    const char* const languages[] = {"ENRU", "RUEN", "DERU", "EN", "FR"};
-    const int sizes[] = {26, 32, 43, 26, 43};
-    file.language = languages[kind];
-    file.alphabet_size = sizes[kind];
-    file.depth = kind == 1 && random_() % 2 != 0 ? 5 : random_() % 2 != 0 ? 3 : 2;
-    file.type = kind == 3 ? 'S' : 'C';
     // A packed record can hold neither the letter yo nor œ.
-    file.packing = kind == 1 || kind == 4 ? 0 : static_cast<int>(random_() % 2);
-    const std::string rests[] = {
+    const struct {
+      const char* language;
+      char type;
+      int size;
+      bool may_pack;
+      std::string letters;
+    } kinds[] = {{"ENRU", 'C', 26, true, "abcmyz"},
+                 {"RUEN", 'C', 32, false, std::string(U"абеёмюя7"_1251)},
+                 {"DERU", 'C', 43, true, std::string(U"aäbcüuzß7"_1252)},
+                 {"EN", 'S', 26, true, "abyz19"},
+                 {"FR", 'C', 43, false, std::string(U"aàçdéeoœpz7"_1252)}};
+    const auto& kind = kinds[random_() % 5];
+    DictionaryFile file;
+    file.language = kind.language;
+    file.alphabet_size = kind.size;
+    file.type = kind.type;
+    file.depth = kind.size == 32 && random_() % 2 != 0 ? 5 : random_() % 2 != 0 ? 3 : 2;
+    file.packing = kind.may_pack && random_() % 2 != 0;
+    letters_ = kind.letters;
+    const char* const rests[] = {
         "N1.a", "v",     "n\\x1\\y2", "Vb\\\\Shown form",    "n\\4\\\\Form", "Adjbo[dy]*m", "",
         "N\\",  "N\\\\", "vb*",       "A\\one\\two\\\\three"};
-    std::vector<std::string> words;
-    for (std::size_t i = 0; i < 1 + random_() % 60; ++i)
-      words.push_back(random_word(letters[kind]));
-    std::sort(words.begin(), words.end());
-    words.erase(std::unique(words.begin(), words.end()), words.end());
-    for (const auto& word : words)
+    std::set<std::string> words;
+    for (auto count = 1 + random_() % 60; count > 0; --count) words.insert(random_word(letters_));
+    for (const auto& word : words) {
       file.records.push_back({word, rests[random_() % std::size(rests)]});
-    letters_ = letters[kind];
+    }
     return file;
   }
 
@@ -126,7 +131,8 @@ class IteratorTest : public testing::Test {
   static int place(char c, const std::string& language) {
     const char letter = base(c, language);
     if (language[0] != 'D' && language[0] != 'F') return static_cast<unsigned char>(letter);
-    return slot(letter, 43) == 43 ? -1 : slot(letter, 43);
+    const int place = slot({letter}, 0, 43);
+    return place == 43 ? -1 : place;
   }
 
   static bool passes(const Wish& wish, const Parts& parts) {
@@ -167,8 +173,15 @@ class IteratorTest : public testing::Test {
             filters[random_() % std::size(filters)], static_cast<int16_t>(random_() % 2)};
   }
 
+  static void write_words(const std::string& path, std::initializer_list<const char*> words) {
+    DictionaryFile file;
+    for (const char* word : words) file.records.push_back({word, "Bx"});
+    file.write(path);
+  }
+
   TempDir dir_;
   const std::string path_ = dir_.file("d.dic");
+  CDicEntryIterator walker_;
   std::mt19937 random_{11};
   std::string letters_;
 };
@@ -225,63 +238,59 @@ TEST_F(IteratorTest, WalksTheRecordsOfTheRangeThatPassTheFilter) {
 }
 
 TEST_F(IteratorTest, WithoutAHeadwordASearchTakesTheFirstLetterOfTheRange) {
-  DictionaryFile file;
-  for (const char* word : {"apple", "bear", "bee", "cat"}) file.records.push_back({word, "N1"});
-  file.write(path_);
-  CDicEntryIterator walker;
-  EXPECT_EQ(walker.OpenIterator(nullptr, path_.c_str(), "!be", "", 0, nullptr, 0), nullptr);
-  // The first letter counts; no word need begin with the others.
+  write_words(path_, {"apple", "bear", "bee", "cat"});
+  const auto open = [&](CDic* dictionary, const char* from, const char* to) {
+    return walker_.OpenIterator(dictionary, path_.c_str(), from, to, 0, nullptr, 0);
+  };
+  const auto first = [&](char* word, int16_t mode) {
+    return walker_.GetFirstEntry(word, nullptr, nullptr, nullptr, mode);
+  };
+  EXPECT_EQ(open(nullptr, "!be", ""), nullptr);
   const std::string long_word(500, 'b');  // cut to its field
-  ASSERT_EQ(walker.OpenIterator(nullptr, path_.c_str(), long_word.c_str(), long_word.c_str(), 0,
-                                nullptr, 0),
-            &walker);
-  ASSERT_EQ(walker.OpenIterator(nullptr, path_.c_str(), "bob", "", 0, nullptr, 0), &walker);
+  ASSERT_EQ(open(nullptr, long_word.c_str(), long_word.c_str()), &walker_);
+  // The first letter counts; no word need begin with the others.
+  ASSERT_EQ(open(nullptr, "bob", ""), &walker_);
   char word[80] = "";
-  EXPECT_STREQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, -1), "bear*N1");
-  EXPECT_STREQ(walker.GetFirstEntry(nullptr, nullptr, nullptr, nullptr, -1), "bear*N1");
-  EXPECT_STREQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, -1), "bear*N1");
+  EXPECT_STREQ(first(word, -1), "bear*Bx");
+  EXPECT_STREQ(first(nullptr, -1), "bear*Bx");
+  EXPECT_STREQ(first(word, -1), "bear*Bx");
   EXPECT_STREQ(word, "bear");
-  EXPECT_STREQ(walker.GetNextEntry(word, nullptr, nullptr, nullptr), "bee*N1");
-  EXPECT_EQ(walker.GetCounter(), 2);
+  EXPECT_STREQ(walker_.GetNextEntry(word, nullptr, nullptr, nullptr), "bee*Bx");
+  EXPECT_EQ(walker_.GetCounter(), 2);
 
   // Opening again closes first, and works on another dictionary.
-  DictionaryFile other;
-  other.records = {{"zebra", "N"}};
-  other.write(dir_.file("z.dic"));
+  write_words(dir_.file("z.dic"), {"zebra"});
   CDic* const borrowed = DicOpen(dir_.file("z.dic").c_str(), 0);
-  walker.OpenIterator(borrowed, nullptr, nullptr, "", 0, nullptr, 0);
-  EXPECT_STREQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, 0), "zebra*N");
-  walker.CloseIterator(1);  // the dictionary is left open
-  EXPECT_EQ(walker.GetFirstEntry(word, nullptr, nullptr, nullptr, 0), nullptr);
-  EXPECT_EQ(walker.GetNextEntry(word, nullptr, nullptr, nullptr), nullptr);
-  EXPECT_EQ(walker.GetLanguage(nullptr), nullptr);
-  EXPECT_EQ(walker.GetDicHandler(), nullptr);
-  EXPECT_STREQ(DicFind(borrowed, "zebra", 0, 2), "zebra*N");
+  open(borrowed, nullptr, "");
+  EXPECT_STREQ(first(word, 0), "zebra*Bx");
+  walker_.CloseIterator(1);  // the dictionary is left open
+  EXPECT_EQ(first(word, 0), nullptr);
+  EXPECT_EQ(walker_.GetNextEntry(word, nullptr, nullptr, nullptr), nullptr);
+  EXPECT_EQ(walker_.GetLanguage(nullptr), nullptr);
+  EXPECT_EQ(walker_.GetDicHandler(), nullptr);
+  EXPECT_STREQ(DicFind(borrowed, "zebra", 0, 2), "zebra*Bx");
   DicClose(borrowed);
 }
 
 // The texts belong to the dictionary that opening again closes or keeps.
 TEST_F(IteratorTest, OpensAnewFromItsOwnDictionaryPathAndRecord) {
-  DictionaryFile file;
-  for (const char* word : {"apple", "bear", "bee", "cat"}) file.records.push_back({word, "Bx"});
-  file.write(path_);
-  CDicEntryIterator walker;
+  write_words(path_, {"apple", "bear", "bee", "cat"});
   for (const bool by_handle : {true, false}) {
     SCOPED_TRACE(by_handle);
-    ASSERT_NE(walker.OpenIterator(nullptr, path_.c_str(), "b", "c", 0, nullptr, 0), nullptr);
-    const char* const record = walker.GetFirstEntry(nullptr, nullptr, nullptr, nullptr, 0);
+    ASSERT_NE(walker_.OpenIterator(nullptr, path_.c_str(), "b", "c", 0, nullptr, 0), nullptr);
+    const char* const record = walker_.GetFirstEntry(nullptr, nullptr, nullptr, nullptr, 0);
     ASSERT_STREQ(record, "bear*Bx");
-    CDic* const own = walker.GetDicHandler();
-    ASSERT_EQ(walker.OpenIterator(by_handle ? own : nullptr, DicGetPath(own), record, record, 0,
-                                  record + 5, 1),
-              &walker);
-    EXPECT_TRUE(!by_handle || walker.GetDicHandler() == own);
-    EXPECT_EQ(walk(&walker, 0, "").size(), 2U);  // all of b
+    CDic* const own = walker_.GetDicHandler();
+    ASSERT_EQ(walker_.OpenIterator(by_handle ? own : nullptr, DicGetPath(own), record, record, 0,
+                                   record + 5, 1),
+              &walker_);
+    EXPECT_TRUE(!by_handle || walker_.GetDicHandler() == own);
+    EXPECT_EQ(walk(&walker_, 0, "").size(), 2U);  // all of b
   }
   // A dictionary that cannot be walked so is the caller's again.
-  CDic* const own = walker.GetDicHandler();
-  EXPECT_EQ(walker.OpenIterator(own, nullptr, "!", nullptr, 0, nullptr, 0), nullptr);
-  EXPECT_EQ(walker.GetDicHandler(), nullptr);
+  CDic* const own = walker_.GetDicHandler();
+  EXPECT_EQ(walker_.OpenIterator(own, nullptr, "!", nullptr, 0, nullptr, 0), nullptr);
+  EXPECT_EQ(walker_.GetDicHandler(), nullptr);
   EXPECT_STREQ(DicFind(own, "cat", 0, 2), "cat*Bx");
   DicClose(own);
 }

@@ -8,15 +8,12 @@
 
 namespace {
 
-struct Named {
-  const char* name;
-  int known;
-  const char* language;
-  const char* type;
-};
-
 TEST(DictionaryName, ExtensionTellsTheTypeAndWhereTheLanguageStands) {
-  const Named cases[] = {
+  const struct {
+    const char* name;
+    int known;
+    const char *language, *type;
+  } cases[] = {
       {"/dic/general.enru.dic", 1, "ENRU", "C"},
       {"C:\\DIC\\BaseRuEn.Dic", 1, "RUEN", "C"},
       {"general.dic", 1, "", "C"},
@@ -38,7 +35,7 @@ TEST(DictionaryName, ExtensionTellsTheTypeAndWhereTheLanguageStands) {
       {"", 0, "", ""},
       {nullptr, 0, "", ""},
   };
-  for (const Named& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.name != nullptr ? c.name : "null");
     char language[5], type[2];
     std::memset(language, 'x', sizeof language);

@@ -3,6 +3,7 @@
 #define KZ_TESTS_DICTIONARY_SCRATCH_FILE_H
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -34,9 +35,16 @@ inline void put_text(Bytes& bytes, std::size_t at, const std::string& text) {
   std::copy(text.begin(), text.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
 }
 
-inline void put_number(Bytes& bytes, std::size_t at, std::size_t width, std::uint32_t value) {
-  for (std::size_t i = 0; i < width; ++i) {
-    bytes[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
+struct Number {
+  std::size_t at, width;
+  std::uint32_t value;
+};
+
+inline void put(Bytes& bytes, std::initializer_list<Number> numbers) {
+  for (const auto& [at, width, value] : numbers) {
+    for (std::size_t i = 0; i < width; ++i) {
+      bytes[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
+    }
   }
 }
 
@@ -44,45 +52,40 @@ inline void put_number(Bytes& bytes, std::size_t at, std::size_t width, std::uin
 inline Bytes sample_header() {
   Bytes bytes(154, 0);
   put_text(bytes, 0, "KZ Dictionary 3.00 (C) 1997-1998 Corvane    ");
-  put_text(bytes, 48, "LABEL-12");
-  put_text(bytes, 56, "ENRU");
+  put_text(bytes, 48, "LABEL-12ENRU");
   put_text(bytes, 61, "C");
   put_text(bytes, 63, "A title");
-  bytes[103] = 0x51;
-  put_text(bytes, 104, "\x81\x82\x83");
-  bytes[112] = 0x52;
-  put_number(bytes, 113, 2, 0x0310);
-  put_number(bytes, 115, 2, 3);
-  put_number(bytes, 117, 2, 26);
-  put_number(bytes, 119, 4, 500);
-  put_number(bytes, 123, 4, 0x9A);
-  put_number(bytes, 127, 4, 1000);
-  put_number(bytes, 131, 4, 0x81020304);
-  put_number(bytes, 135, 4, 0xA1A2A3A4);
-  put_number(bytes, 139, 2, 0xB1B2);
-  bytes[141] = 3;
-  put_number(bytes, 142, 4, 0xC1C2C3C4);
-  put_number(bytes, 146, 4, 0x71727374);
-  put_number(bytes, 150, 4, 0xD1D2D3D4);
+  put_text(bytes, 103, "\x51\x81\x82\x83");
+  put(bytes, {{112, 1, 0x52},
+              {113, 2, 0x0310},
+              {115, 2, 3},
+              {117, 2, 26},
+              {119, 4, 500},
+              {123, 4, 0x9A},
+              {127, 4, 1000},
+              {131, 4, 0x81020304},
+              {135, 4, 0xA1A2A3A4},
+              {139, 2, 0xB1B2},
+              {141, 1, 3},
+              {142, 4, 0xC1C2C3C4},
+              {146, 4, 0x71727374},
+              {150, 4, 0xD1D2D3D4}});
   return bytes;
 }
 
 // A first-generation header in a buffer of the current size, for language letters "ER".
 inline Bytes first_generation_header() {
   Bytes bytes(154, 0xEE);
-  put_text(bytes, 0, "QAN Dictionary (C) 1993-1995 Torva Ltd. ");
-  put_text(bytes, 40, "OLDLABEL");
-  put_text(bytes, 48, "ER");
-  put_text(bytes, 50, std::string("Old title") + std::string(31, '\0'));
-  bytes[98] = 0x61;
-  bytes[99] = 0x62;
-  put_number(bytes, 100, 2, 256);
-  put_number(bytes, 102, 2, 2);
-  put_number(bytes, 104, 2, 26);
-  put_number(bytes, 106, 4, 600);
-  put_number(bytes, 110, 4, 900);
-  put_number(bytes, 114, 4, 0x12345678);
-  put_number(bytes, 118, 4, 0x9ABCDEF0);
+  put_text(bytes, 0,
+           "QAN Dictionary (C) 1993-1995 Torva Ltd. OLDLABELEROld title" + std::string(31, '\0'));
+  put(bytes, {{98, 2, 0x6261},
+              {100, 2, 256},
+              {102, 2, 2},
+              {104, 2, 26},
+              {106, 4, 600},
+              {110, 4, 900},
+              {114, 4, 0x12345678},
+              {118, 4, 0x9ABCDEF0}});
   return bytes;
 }
 

@@ -105,6 +105,7 @@ class SlowDictionary {
   }
 
   bool is_letter(char c) const {
+    if (language_ == 0) return slot({c}, 0, n_) != n_;
     if (language_ == 'E') return c >= 'a' && c <= 'z';
     return language_ == 'R' ? isruansilower(c) != 0 : isansilower(c) != 0;
   }
@@ -139,8 +140,7 @@ class SlowDictionary {
   bool block(const std::string& word, int mode, std::int64_t& from, std::int64_t& size) const {
     const auto letters = prefix(word);
     if (!letters) return false;
-    const auto letter = [&](std::size_t i) { return i < letters->size() ? (*letters)[i] : '\0'; };
-    const int i = slot(letter(0), n_), j = slot(letter(1), n_), k = slot(letter(2), n_);
+    const int i = slot(*letters, 0, n_), j = slot(*letters, 1, n_), k = slot(*letters, 2, n_);
     const std::uint32_t key = five_character_key(*letters);
     const auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) {
       if (depth_ == 5) return g.key == key;
@@ -149,7 +149,8 @@ class SlowDictionary {
       return g.i == i && g.j == j && (depth_ == 2 || g.k == k);
     });
     if (group == groups_.end() || !points_inside(group->position)) return false;
-    const bool is_short = depth_ == 5 ? letters->size() < 5 : depth_ == 3 && letter(2) == 0;
+    const bool is_short = depth_ == 5 ? letters->size() < 5
+                                      : depth_ == 3 && (letters->size() < 3 || (*letters)[2] == 0);
     from = group->position;
     size = end_of(group, is_short && (mode == 2 || (mode > 2 && depth_ == 5))) - from;
     return true;
