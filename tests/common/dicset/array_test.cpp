@@ -9,8 +9,6 @@
 namespace kz::test {
 namespace {
 
-const char* const kDirections[] = {"ENRU", "RUEN", "FRRU", "RUFR", "DERU", "RUDE"};
-
 TEST_F(SetTest, DescriptorsAreAppendedReplacedOrPutBehindTheEnd) {
   const ZCObArray& array = *DicArraySelect(set_, nullptr);
   EXPECT_EQ(DicArraySet(set_, -1, "a.dic", 1, 0), -1);
@@ -98,22 +96,16 @@ TEST_F(SetTest, PathsTooLongForAPlaceAreReportedLikeMissingOnes) {
 }
 
 TEST_F(SetTest, BaseDictionariesOfAllDirectionsAreListedAndThoseOfOneLoaded) {
-  for (const char* name : {"basederu.dic", "baseru.dig", "basefrru.dic"}) {
-    write(name,
-          name[4] == 'd'   ? "DERU"
-          : name[4] == 'f' ? "FRRU"
-                           : "RU",
-          name[4] == 'r' ? 'G' : 'C');
-  }
+  write("basederu.dic", "DERU");
+  write("baseru.dig", "RU", 'G');
+  write("basefrru.dic", "FRRU");
   open("DERU");
   DicArraySet(set_, -1, "old.dic", 1, 0);
   DicSysLoadCommon(set_);
   const char* const general[] = {"ru", "en", "ru", "fr", "ru", "de"};
   for (int i = 0; i < 6; ++i) {
-    std::string lower = kDirections[i];
-    for (char& c : lower) c = static_cast<char>(c | 0x20);
     EXPECT_EQ(descriptors(set_->directions[i]),
-              (Names{directory_ + "base" + lower + ".dic:0",
+              (Names{directory_ + "base" + lower_case(kDirections[i]) + ".dic:0",
                      directory_ + "base" + general[i] + ".dig:0"}));
   }
   EXPECT_EQ(loaded(), (Names{"basederu.dic", "baseru.dig"}));

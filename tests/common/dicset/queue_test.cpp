@@ -254,28 +254,16 @@ TEST_F(QueueTest, NothingIsDoneWithoutASetOrOutsideTheLists) {
     DicSetCurrentHandler(set, list, loaded);
   }
   EXPECT_EQ(DicGetCurrentHandler(set_, 1), loaded);
-}
 
-TEST_F(QueueTest, AFailedLoadLeavesTheOthers) {
-  const std::string good = simple("good.dic"), bad = dir_.file("bad.dic");
-  CDic* const loaded = DicQueLoad(set_, -1, good.c_str(), 0);
-  std::ofstream(bad) << "no dictionary";
+  // A failed load leaves the others.
+  const std::string bad = dir_.write("bad.dic", "no dictionary");
   for (const char* path : {bad.c_str(), "/no/such.dic", "", static_cast<const char*>(nullptr)}) {
     EXPECT_EQ(DicQueLoad(set_, 0, path, 0), nullptr);
     EXPECT_EQ(DicQueGetSize(set_, 0), 1);
   }
   EXPECT_EQ(DicQueUnLoad(set_, nullptr, 0), 1);
   EXPECT_EQ(DicQueFirst(set_, 1, 0), loaded);
-  EXPECT_STREQ(DicQueFind(set_, 1, "cat", 0, 2), ("cat*N" + good).c_str());
-}
-
-TEST_F(QueueTest, ThePathOfALoadedDictionaryMayBeGivenBack) {
-  CDic* loaded = DicQueLoad(set_, -1, simple("a.dic").c_str(), 0);
-  loaded = DicQueLoad(set_, -1, DicGetPath(loaded), 2);
-  ASSERT_NE(loaded, nullptr);
-  EXPECT_STREQ(DicGetPath(loaded), dir_.file("a.dic").c_str());
-  EXPECT_EQ(DicQueUnLoad(set_, DicGetPath(loaded), 0), 1);
-  EXPECT_EQ(DicQueGetSize(set_, 0), 0);
+  EXPECT_STREQ(DicQueFind(set_, 1, "cat", 0, 2), ("cat*N" + dir_.file("a.dic")).c_str());
 }
 
 TEST_F(QueueTest, ADictionaryWithoutItsFileHasChanged) {
@@ -286,9 +274,13 @@ TEST_F(QueueTest, ADictionaryWithoutItsFileHasChanged) {
   EXPECT_EQ(DicQueUnLoad(set_, path.c_str(), 2), 0);
   EXPECT_EQ(DicQueClearIfChanged(set_, "enru"), 0);
   EXPECT_EQ(DicQueClearIfChanged(set_, nullptr), 1);
-  DicQueLoad(set_, -1, path.c_str(), 2);
+  // The path of a loaded dictionary may be given back.
+  CDic* const loaded = DicQueLoad(set_, -1, path.c_str(), 2);
+  CDic* const again = DicQueLoad(set_, -1, DicGetPath(loaded), 4);
+  ASSERT_NE(again, nullptr);
+  EXPECT_EQ(DicGetPath(again), path);
   std::filesystem::remove(path);
-  EXPECT_EQ(DicQueUnLoad(set_, path.c_str(), 2), 1);
+  EXPECT_EQ(DicQueUnLoad(set_, DicGetPath(again), 4), 1);
   EXPECT_EQ(DicQueGetSize(set_, 0), 0);
 }
 

@@ -16,6 +16,13 @@
 
 namespace kz::test {
 
+inline const char* const kDirections[] = {"ENRU", "RUEN", "FRRU", "RUFR", "DERU", "RUDE"};
+
+inline std::string lower_case(std::string direction) {
+  for (char& c : direction) c = static_cast<char>(c | 0x20);
+  return direction;
+}
+
 class SetTest : public testing::Test {
  protected:
   ~SetTest() override { DicSysClose(set_); }

@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <cstring>
 #include <fstream>
-#include <iterator>
-#include <sstream>
 
 #include "kz/dic_error.h"
 #include "kz/dic_header.h"
@@ -14,12 +12,6 @@
 
 namespace kz::test {
 namespace {
-
-std::string bytes_of(const std::string& path) {
-  std::ostringstream out;
-  out << std::ifstream(path, std::ios::binary).rdbuf();
-  return out.str();
-}
 
 TEST(Set, BuffersAreZeroedAndOnlyMadeWhenAsked) {
   for (const int16_t flag : {int16_t{1}, int16_t{255}}) {
@@ -42,18 +34,16 @@ TEST(Set, BuffersAreZeroedAndOnlyMadeWhenAsked) {
 }
 
 TEST_F(SetTest, TheDirectionSelectsItsArrayInAnyCase) {
-  const char* const directions[] = {"ENRU", "RUEN", "FRRU", "RUFR", "DERU", "RUDE"};
   for (int i = 0; i < 6; ++i) {
     ZCObArray* const array = &set_->directions[i];
-    EXPECT_EQ(DicArraySelect(set_, directions[i]), array);
+    EXPECT_EQ(DicArraySelect(set_, kDirections[i]), array);
     DicSysSetLanguage(set_, nullptr);
     EXPECT_EQ(DicArraySelect(set_, nullptr), nullptr);
-    std::string lower = directions[i];
-    for (char& c : lower) c = static_cast<char>(c | 0x20);
+    const std::string lower = lower_case(kDirections[i]);
     DicSysSetLanguage(set_, (lower + "more").c_str());
     EXPECT_EQ(set_->language, lower);
     EXPECT_EQ(set_->current_array, array);
-    open(directions[i]);
+    open(kDirections[i]);
     EXPECT_EQ(set_->current_array, &set_->directions[i]);
   }
   for (const char* none : {"RU", "EN", "ENFR", "", "ENR"}) {
@@ -72,11 +62,11 @@ TEST_F(SetTest, HeadersOfLoadedDictionariesAreNotRewritten) {
   const auto set_properties = [&](const char* file) {
     return DicSysHeaderSetProperties(set_, file, "Title", nullptr, 7, "secret");
   };
-  const std::string before = bytes_of(path);
+  const std::string before = dir_.read("a.dic");
   DicQueLoad(set_, -1, path.c_str(), 0);
   EXPECT_EQ(set_properties((directory_ + "A.DIC").c_str()), DIC_ERR_IN_USE);
   EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_IN_USE);
-  EXPECT_EQ(bytes_of(path), before);
+  EXPECT_EQ(dir_.read("a.dic"), before);
   EXPECT_EQ(set_properties(nullptr), DIC_ERR_ARGUMENT);
   EXPECT_EQ(DicSysHeaderSetProperties(nullptr, path.c_str(), "", "", 1, ""), -1);
   DicQueClear(set_);
@@ -85,13 +75,13 @@ TEST_F(SetTest, HeadersOfLoadedDictionariesAreNotRewritten) {
 
   // The password comes from the file, and from memory when the dictionary is loaded.
   char password[8];
-  EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), password), password);
-  EXPECT_EQ(std::string(password, 8), std::string("secret\0\0", 8));
-  DicQueLoad(set_, -1, path.c_str(), 0);
-  std::ofstream(path) << "no dictionary any more";
-  std::memset(password, 'x', 8);
-  EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), password), password);
-  EXPECT_EQ(std::string(password, 8), std::string("secret\0\0", 8));
+  for (const bool from_memory : {false, true}) {
+    std::memset(password, 'x', 8);
+    if (from_memory) std::ofstream(path) << "no dictionary any more";
+    EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), password), password);
+    EXPECT_EQ(std::string(password, 8), std::string("secret\0\0", 8));
+    if (!from_memory) DicQueLoad(set_, -1, path.c_str(), 0);
+  }
   DicQueClear(set_);
   EXPECT_EQ(DicSysGetDicPassword(set_, path.c_str(), password), nullptr);
   EXPECT_EQ(kz_dict_dic_errno(), DIC_ERR_FORMAT);
