@@ -1,8 +1,9 @@
 // Free text as entry bodies.
 //
 // In a body a letter of the other alphabet can be a grammar code, a number with a point begins a
-// meaning, and '/', ';', '#' and others have their own meaning. Words that hold such characters are
-// put into braces, which every reader passes over as a whole.
+// meaning, and '/', '#' and others have their own meaning. Words that hold such characters are put
+// into braces, which every reader passes over as a whole. Only ';' parts synonyms there, too: a
+// comma takes its place.
 #include "lexicon/source/body_writer.h"
 
 #include <algorithm>
@@ -144,7 +145,7 @@ bool BodyWriter::is_code_letter(char32_t c) const {
 bool BodyWriter::needs_braces(std::u32string_view word) const {
   for (std::size_t i = 0; i < word.size(); ++i) {
     if (is_code_letter(word[i])) return true;
-    if (std::u32string_view(U"/#|~&;").find(word[i]) != std::u32string_view::npos) return true;
+    if (std::u32string_view(U"/#|~&").find(word[i]) != std::u32string_view::npos) return true;
     // A number with its point, also when parentheses between them go.
     const std::size_t next = is_digit(word[i]) ? word.find_first_not_of(U"()", i + 1) : word.size();
     if (next < word.size() && word[next] == U'.') return true;
@@ -205,7 +206,9 @@ std::vector<std::u32string> BodyWriter::meaning_texts(const MeaningDraft& meanin
   }
   std::vector<std::u32string> texts;
   for (const std::u32string& synonym : meaning.synonyms) {
-    for (const std::u32string& piece : cut(storable(synonym), kSynonymMax)) {
+    std::u32string whole = storable(synonym);
+    std::replace(whole.begin(), whole.end(), U';', U',');
+    for (const std::u32string& piece : cut(whole, kSynonymMax)) {
       // "= word" refers to another word.
       const bool reference = piece.starts_with(U"= ") && texts.empty() && piece.size() > 2;
       std::u32string text =

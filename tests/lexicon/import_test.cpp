@@ -17,6 +17,8 @@ namespace kz::test {
 namespace {
 
 using namespace lexicon;
+using ::testing::ContainsRegex;
+using ::testing::Each;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -166,6 +168,8 @@ TEST(SourceWriter, HidesEveryMarkFromTheReader) {
       for (const MeaningView& meaning : view.meanings) {
         EXPECT_EQ(meaning.part_of_speech, "");
         EXPECT_TRUE(meaning.number == "1." || meaning.number == "2.") << meaning.number;
+        EXPECT_LE(meaning.synonyms.size(), meaning.number == "1." ? 1u : 2u);
+        EXPECT_THAT(meaning.synonyms, Each(Not(ContainsRegex("[{}]"))));
       }
       EXPECT_EQ(view.meanings.back().synonyms.front(), "слово");
     }
