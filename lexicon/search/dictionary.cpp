@@ -157,6 +157,10 @@ Answer Dictionary::Impl::find_form(const Query& query, const Forms& forms) {
 }
 
 Answer Dictionary::Impl::find(const Query& query) {
+  if (query.word.size() > kTooLong) {
+    count_characters(query.word);
+    return {};
+  }
   const std::u32string word = from_utf8(query.word);
   Answer answer;
   if (const std::optional<Forms> written = forms(word)) answer = find_form(query, *written);
@@ -194,11 +198,9 @@ const std::string& Dictionary::language() const { return impl_->header.stated.la
 const Header& Dictionary::header() const { return impl_->header.stated; }
 
 Answer Dictionary::find(std::string_view word, std::size_t next) {
-  return impl_->find({std::string(word), false, next});
+  return impl_->find({word, false, next});
 }
 
-Answer Dictionary::find_prefix(std::string_view word) {
-  return impl_->find({std::string(word), true, 0});
-}
+Answer Dictionary::find_prefix(std::string_view word) { return impl_->find({word, true, 0}); }
 
 }  // namespace kz::lexicon

@@ -32,9 +32,9 @@ struct Dictionary::Impl {
     bool plain = false;  // the page lacks a character of the query
   };
   struct Query {
-    std::string word{};    // UTF-8
-    bool prefix = false;   // all headwords that begin with the word
-    std::size_t next = 0;  // entries of this many records after the word
+    std::string_view word{};  // UTF-8
+    bool prefix = false;      // all headwords that begin with the word
+    std::size_t next = 0;     // entries of this many records after the word
   };
 
   // No value when the query has characters that cannot be written in the code page.

@@ -20,6 +20,11 @@ std::string one_character(char32_t c, CodePage page) {
 
 [[noreturn]] void refuse(const std::string& reason) { throw Error(ErrorCode::kData, reason); }
 
+[[noreturn]] void refuse_length(std::size_t characters) {
+  refuse("the entry has " + std::to_string(characters) + " characters, more than " +
+         std::to_string(kEntryMax));
+}
+
 }  // namespace
 
 // The line with exactly one '*' behind its headword. Word lists are written without any, and
@@ -70,6 +75,7 @@ void EntryReader::add_spelling(Record& record, const std::string& spelling) cons
 Record EntryReader::read(std::string_view utf8) const {
   Record record;
   try {
+    if (utf8.size() > kTooLong) refuse_length(count_characters(utf8));
     const std::u32string text = from_utf8(star_checked(utf8));
     if (std::any_of(text.begin(), text.end(), [](char32_t c) { return c < 32 || c == 127; })) {
       refuse("the entry holds a control character");
@@ -100,10 +106,7 @@ Record EntryReader::read(std::string_view utf8) const {
   }
   record.text = record.headword + body;
   add_spelling(record, spelling);
-  if (record.text.size() > kEntryMax) {
-    refuse("the entry has " + std::to_string(record.text.size()) + " characters, more than " +
-           std::to_string(kEntryMax));
-  }
+  if (record.text.size() > kEntryMax) refuse_length(record.text.size());
   return record;
 }
 

@@ -61,7 +61,8 @@ void read_lines(SourceText& source, std::istream& in, Marked marked) {
     if (marked == Marked::kDirective && line.text.starts_with("*:")) {
       take_directive(source, line);
     } else if (!line.text.empty() && line.text[0] != '*') {
-      source.lines.push_back(line);
+      // A copy has no room to spare.
+      source.lines.push_back(line.text.size() > kTooLong ? std::move(line) : line);
     }
   }
 }

@@ -69,6 +69,27 @@ std::size_t sequence_length(unsigned char lead) {
   return 0;
 }
 
+// The character at a place in UTF-8; the place moves on.
+char32_t take_character(std::string_view text, std::size_t& at) {
+  const auto lead = static_cast<unsigned char>(text[at]);
+  if (lead < 0x80) {
+    ++at;
+    return lead;
+  }
+  const std::size_t length = sequence_length(lead);
+  if (length == 0 || at + length > text.size()) throw BadUtf8(at);
+  char32_t c = lead & (0xFFu >> (length + 1));
+  for (std::size_t i = 1; i < length; ++i) {
+    const auto next = static_cast<unsigned char>(text[at + i]);
+    if ((next & 0xC0) != 0x80) throw BadUtf8(at);
+    c = (c << 6) | (next & 0x3F);
+  }
+  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
+  if (c < kSmallest[length] || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) throw BadUtf8(at);
+  at += length;
+  return c;
+}
+
 }  // namespace
 
 const char* name_of(CodePage page) {
@@ -107,28 +128,15 @@ Unmappable::Unmappable(char32_t c, CodePage code_page)
 std::u32string from_utf8(std::string_view text) {
   std::u32string result(text.size(), U'\0');
   std::size_t characters = 0;
-  for (std::size_t at = 0; at < text.size();) {
-    const auto lead = static_cast<unsigned char>(text[at]);
-    if (lead < 0x80) {
-      result[characters++] = lead;
-      ++at;
-      continue;
-    }
-    const std::size_t length = sequence_length(lead);
-    if (length == 0 || at + length > text.size()) throw BadUtf8(at);
-    char32_t c = lead & (0xFFu >> (length + 1));
-    for (std::size_t i = 1; i < length; ++i) {
-      const auto next = static_cast<unsigned char>(text[at + i]);
-      if ((next & 0xC0) != 0x80) throw BadUtf8(at);
-      c = (c << 6) | (next & 0x3F);
-    }
-    constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-    if (c < kSmallest[length] || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) throw BadUtf8(at);
-    result[characters++] = c;
-    at += length;
-  }
+  for (std::size_t at = 0; at < text.size();) result[characters++] = take_character(text, at);
   result.resize(characters);
   return result;
+}
+
+std::size_t count_characters(std::string_view text) {
+  std::size_t characters = 0;
+  for (std::size_t at = 0; at < text.size(); ++characters) take_character(text, at);
+  return characters;
 }
 
 std::string to_utf8(std::u32string_view text) {

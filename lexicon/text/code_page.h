@@ -25,6 +25,12 @@ std::size_t append_encoded(std::u32string_view text, CodePage page, std::string&
 
 bool can_encode(char32_t character, CodePage page);
 
+// The number of characters of UTF-8. Throws BadUtf8.
+std::size_t count_characters(std::string_view text);
+
+// Bytes of UTF-8 that no word and no entry of a dictionary has, however its characters are written.
+constexpr std::size_t kTooLong = std::size_t{1} << 16;
+
 }  // namespace kz::lexicon
 
 #endif  // KZ_LEXICON_CODE_PAGE_H
