@@ -16,6 +16,7 @@ import pathlib
 import re
 import struct
 import sys
+import unicodedata
 
 HEADER = struct.Struct("<48s8s5s2s40sB8sBHhhiIIiIHBIiI")
 Header = collections.namedtuple("Header", """signature label language type title reserved1 password
@@ -26,6 +27,7 @@ ALPHABETS = {26: b"abcdefghijklmnopqrstuvwxyz", 32: bytes(range(224, 256)),
 YO, YE = "ёе".encode("cp1251")
 MARKS = b"0123456789 \"#$%&'()+,-./:;<=>@[]~"
 MIXED = re.compile(rb"([A-Za-z\x8c\x9c\xa8\xb8\xc0-\xff]+)")
+LIGATURES = {"æ": "ae", "œ": "oe", "ß": "ss", "ø": "o", "þ": "th", "ð": "d"}
 KEY = 0x7E
 
 
@@ -164,6 +166,19 @@ class Dictionary:
         text = self.shared[int(number[0], 16):].partition(b"\0")[0]
         return head + attributes + text + (b"" if sources == b"\\" else sources)
 
+    def headword(self, spelling):
+        """The headword under which an entry of this spelling is stored."""
+        page, word, letters = code_page(self.language), spelling.lower(), self.slots
+
+        def is_known(c):
+            return c.encode(page)[0] in letters or c.encode(page) in MARKS
+
+        if re.match(r"\w", word) and all(map(is_known, word[:self.header.depth])):
+            return word
+        plain = (c if is_known(c) else LIGATURES.get(c) or unicodedata.normalize("NFD", c)[0]
+                 for c in word)
+        return re.sub(r"^\W+", "", "".join(c for c in "".join(plain) if is_known(c)))
+
     def source_line(self, entry):
         """The line of source text of an entry."""
         own, target = self.language[:2], self.language[2:] or self.language
@@ -171,7 +186,7 @@ class Dictionary:
         pages = code_page(own), "cp1251", page, code_page(own)
         head, attributes, body, sources = map(decode, sections(entry), pages)
         reference, _, spelling = sources.partition("\\\\")
-        if spelling.lower() == head and spelling != head:
+        if spelling and spelling != head and self.headword(spelling) == head:
             return spelling + attributes + body + reference
         if self.words_only and entry.endswith(b"*"):
             return head

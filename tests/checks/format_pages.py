@@ -71,6 +71,8 @@ def check_limits():
     sources = (
         ("limits.dic", "ENRU", "".join(f"{word}*N{body}\n" for word in headwords for body in bodies)),
         ("codes.dic", "RUDE", "дом*W[Öl]haus\nкот*$«a»[Öl]\\Bär\nсуп*\nстол*Nab[Т]tisch\\1\\\\Стол\n"),
+        ("spellings.dic", "ENRU", "'tis*Wа\n_a.*Nб\n-armed*Aв\nX-ray*Nг\nbow*Nд\\\\Bow\n"),
+        ("accents.dic", "FRRU", "Ålesund*Nа\nÆrø*Nб\nÉtat*Nг\n'été*Nд\n"),
         ("words.dis", "EN", "a\nab\nabc\nac\n"))
     for (name, language, source), form in itertools.product(sources, ("--plain", "--packed")):
         kzdic("build", "--language", language, form, "-", "-o", name, text=source)
