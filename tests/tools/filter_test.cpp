@@ -204,7 +204,7 @@ TEST_F(FilterTest, ALongLineIsHeldOnce) {
   place.write("line", std::string(kSize, 'a'));
   place.write("words", "b=c\r\na=dd\r\n");
   place.write("word", "a*Nб\n");
-  ASSERT_EQ(place.kzdic({"build", "word", "-o", "o.dic", "--language", "ENRU"}).status, 0);
+  ASSERT_EQ(place.kzdic("build word -o o.dic --language ENRU").status, 0);
   const std::pair<std::string, int> commands[] = {{"convert --from utf-8 --to html", 0},
                                                   {"translit --to russian --smart", 0},
                                                   {"translit --to latin", 0},
