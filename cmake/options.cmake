@@ -3,6 +3,7 @@ option(KZ_BUILD_TOOL "Build kzdic, the command-line tool" ON)
 option(KZ_BUILD_BENCH "Build the benchmarks" OFF)
 option(KZ_BUILD_FUZZ "Build the fuzz targets (clang)" OFF)
 option(KZ_QUICK_BUILD "Precompile headers, and compile sources of the tool together" ON)
+option(KZ_PYTHON "Build the Python package kzlexicon" OFF)
 option(KZ_32BIT "Build for 32-bit x86" OFF)
 option(KZ_COVERAGE "Count the lines that are reached (g++)" OFF)
 set(KZ_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror

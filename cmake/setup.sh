@@ -21,7 +21,7 @@ need_packages() {
 }
 
 build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev zlib1g-dev scdoc)
-test_packages=(googletest python3 binutils zsh locales dpkg-dev file)
+test_packages=(googletest python3 binutils zsh locales dpkg-dev file pybind11-dev python3-dev python3-pytest)
 bench_packages=(libbenchmark-dev libcdb-dev liblmdb-dev libicu-dev libhunspell-dev lttoolbox lttoolbox-dev)
 clang_packages=(clang libclang-rt-14-dev)
 coverage_packages=(gcovr)
