@@ -73,7 +73,7 @@ void bind_dictionary(py::module_& module) {
       .def_property_readonly(
           "path",
           [](OpenDictionary& self) {
-            return self.use([](const Dictionary& d) { return Path{d.path()}; });
+            return self.use([](const Dictionary& d) { return to_str(d.path()); });
           },
           "The path, or the name of a dictionary in memory.")
       .def_property_readonly(

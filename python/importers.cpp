@@ -21,7 +21,8 @@ void bind_importers(py::module_& module) {
       "the dictionary (\"ENRU\") is empty, it is derived from the name and the data.");
   module.def(
       "dictd_files", [](const Path& base) { return lexicon::dictd_files(base.value); },
-      py::arg("base"), "The files of a database of dictd.");
+      py::arg("base"),
+      "The files that a database of dictd can have, whether they are there or not.");
 }
 
 }  // namespace kz::python

@@ -30,7 +30,7 @@ void bind_inflector(py::module_& module) {
           },
           py::arg("text_path"), py::arg("path"), Released(), "Compiles the text of a file.")
       .def_static(
-          "text_path", [](const Path& path) { return Path{Inflector::text_path(path.value)}; },
+          "text_path", [](const Path& path) { return to_str(Inflector::text_path(path.value)); },
           py::arg("path"), "The name of the text beside a compiled table.")
       .def(
           "endings",

@@ -21,8 +21,8 @@ void bind_reader(py::module_& module) {
       .def_property_readonly(
           "files",
           [](const SourceText& self) {
-            py::list files;
-            for (const std::string& file : self.files) files.append(to_str(file));
+            std::vector<Text> files;
+            for (const std::string& file : self.files) files.push_back({file});
             return files;
           },
           "The names of the texts; a line has an index into them.")

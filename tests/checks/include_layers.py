@@ -25,6 +25,7 @@ ALLOWED = {
     "morphology": UTIL | {"grammar", "morphology"},
     "lexicon": {"lexicon", "platform/replace.h", "platform/memory_file.h"},
     "tools": {"tools"},
+    "python": {"python"},
     "examples": set(),
     "bench": {"bench", "text/literal.h"},
     "fuzz": {"fuzz", "text/literal.h"},
@@ -47,8 +48,8 @@ FOLDER_OF_HEADER = {f"kz/{name}.h": folder for folder, names in HEADERS.items()
 # For everybody, in whatever folder they stand: no code, or codes alone.
 FREE = {"kz/export.h", "kz/types.h", "kz/dic_error.h", "kz/platform.h"}
 # What needs no header of the tree: programs on top of the library.
-PUBLIC_ONLY = {"lexicon", "tools", "bench", "fuzz", "examples"}
-LEXICON_CLIENTS = {"lexicon", "tools", "bench", "fuzz", "examples"}
+PUBLIC_ONLY = {"lexicon", "tools", "python", "bench", "fuzz", "examples"}
+LEXICON_CLIENTS = {"lexicon", "tools", "python", "bench", "fuzz", "examples"}
 
 INCLUDE = re.compile(r'^\s*#include\s+(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
 SYSTEM = re.compile(r"^(sys|linux|netinet|arpa)/|^(unistd|fcntl|dirent|dlfcn|poll|pthread|sched|"
