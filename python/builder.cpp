@@ -11,7 +11,10 @@ using lexicon::BuildSummary;
 // A builder writes once; what it wrote is kept for summary().
 class OneBuild {
  public:
-  explicit OneBuild(lexicon::BuildOptions options) : builder_(std::move(options)) {}
+  explicit OneBuild(const lexicon::BuildOptions& options)
+      : language_(options.language), builder_(options) {}
+
+  const std::string& language() const { return language_; }
 
   lexicon::Builder& adding() {
     if (summary_) throw lexicon::Error(lexicon::ErrorCode::kArgument, "the dictionary is written");
@@ -31,6 +34,7 @@ class OneBuild {
   const std::vector<lexicon::Diagnostic>& diagnostics() const { return builder_.diagnostics(); }
 
  private:
+  std::string language_;
   lexicon::Builder builder_;
   std::optional<BuildSummary> summary_;
 };
@@ -54,8 +58,7 @@ std::unique_ptr<Builder> make_builder(const Text& language, const Text& type, co
   options.depth = depth;
   options.skip_bad = skip_bad;
   options.fold_yo = fold_yo;
-  return std::make_unique<Builder>(
-      OneBuild(lexicon::with_properties(std::move(options), properties)));
+  return std::make_unique<Builder>(OneBuild(lexicon::with_properties(options, properties)));
 }
 
 // Adds to the builder without the interpreter lock; the call returns the builder.
@@ -139,7 +142,12 @@ void bind_builder(py::module_& module) {
           [](Builder& self) {
             return self.use([](const OneBuild& build) { return build.diagnostics(); });
           },
-          "What there is to say about entries, in the order in which it was found.");
+          "What there is to say about entries, in the order in which it was found.")
+      .def("__repr__", [](Builder& self) {
+        return self.use([](const OneBuild& build) {
+          return "<kzlexicon.Builder of '" + build.language() + "'>";
+        });
+      });
 
   module.def(
       "type_of_file_name", [](const Path& path) { return lexicon::type_of_file_name(path.value); },

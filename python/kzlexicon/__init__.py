@@ -1,12 +1,11 @@
 """Dictionaries read, searched, built, imported and checked.
 
-    import kzlexicon
-
-    builder = kzlexicon.Builder("ENRU", title="Pets")
-    builder.add_line("dog*Nсобака;пёс[M]")
-    with kzlexicon.Dictionary.from_bytes(builder.to_bytes()) as dictionary:
-        for entry in dictionary.find("Dog"):
-            print(entry.view().meanings[0].synonyms)  # ['собака', 'пёс']
+    >>> import kzlexicon
+    >>> builder = kzlexicon.Builder("ENRU", title="Pets").add_line("dog*Nсобака;пёс[M]")
+    >>> with kzlexicon.Dictionary.from_bytes(builder.to_bytes()) as dictionary:
+    ...     for entry in dictionary.find("Dog"):
+    ...         print(entry.view().meanings[0].synonyms)
+    ['собака', 'пёс']
 
 Every failure of the library is a kzlexicon.Error; a word that is not there is no error.
 """

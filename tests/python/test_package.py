@@ -1,9 +1,11 @@
 """The type hints agree with the module, and the examples run."""
 
 import ast
+import doctest
 import inspect
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 
@@ -71,6 +73,12 @@ def test_everything_is_documented_and_exported():
     for name in kzlexicon.__all__:
         value = getattr(kzlexicon, name)
         assert value.__module__ == "kzlexicon" and (value.__doc__ or "").strip(), name
+
+
+def test_the_page_for_users(directory, tmp_path, monkeypatch):
+    monkeypatch.chdir(shutil.copytree(directory, tmp_path / "copy"))
+    page = doctest.testfile(str(TREE / "docs" / "python.md"), module_relative=False, encoding="utf-8")
+    assert (page.failed, doctest.testmod(kzlexicon).failed) == (0, 0) and page.attempted > 10
 
 
 @pytest.mark.parametrize("script, arguments", [

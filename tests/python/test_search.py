@@ -42,8 +42,8 @@ def test_walks_cover_a_part_of_a_dictionary(directory):
 
 def test_inflected_forms(directory):
     inflector = Inflector(directory / "ruflex.Dat")
-    groups = {form.headword: form.group for form in inflector.headwords("книгами")}
-    assert (groups["книг"], groups["книга"]) == (WordGroup.MASCULINE, WordGroup.FEMININE)
+    forms = [(form.headword, form.group) for form in inflector.headwords("книгами")]
+    assert {("книг", WordGroup.MASCULINE), ("книга", WordGroup.FEMININE)} <= set(forms)
     ending = inflector.endings("столами")[0]
     assert (ending.rest, ending.readings[0].grammar[0]) == ("стол", "noun")
     answer = Dictionary(directory / "baseruen.dic").find_inflected("отцов", inflector)[0]
