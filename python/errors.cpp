@@ -37,7 +37,7 @@ void raise(const lexicon::Error& error) {
 void translate_errors() {
   py::register_local_exception_translator([](std::exception_ptr thrown) {
     try {
-      if (thrown) std::rethrow_exception(thrown);
+      if (thrown) std::rethrow_exception(std::move(thrown));
     } catch (const lexicon::Error& error) {
       raise(error);
     }
