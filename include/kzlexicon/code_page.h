@@ -19,6 +19,7 @@
 
 namespace kz::lexicon {
 
+// The pages of dictionaries are kRussian, kWestern and kMixed; text of other programs may have any.
 enum class CodePage {
   kRussian,  // Windows-1251
   kWestern,  // Windows-1252
@@ -32,19 +33,22 @@ enum class CodePage {
   kMixed,
 };
 
+// "Windows-1251"; static text.
 KZL_API const char* name_of(CodePage page);
 
-// A byte, at an offset, that is not part of a character. The message goes on after "byte N".
+// A byte of a text that is not part of a character. An error of the code kData.
 struct KZL_API BadText : Error {
+  // The message goes on after "byte N".
   BadText(std::size_t at, const std::string& message);
-  std::size_t offset;
+  std::size_t offset;  // of the byte in the text, from 0
 };
 
+// Text that is not UTF-8: also overlong forms, surrogates and code points above U+10FFFF.
 struct KZL_API BadUtf8 : BadText {
   explicit BadUtf8(std::size_t at);
 };
 
-// A character that the code page lacks.
+// A character that the code page lacks. An error of the code kCodePage.
 struct KZL_API Unmappable : Error {
   Unmappable(char32_t c, CodePage code_page);
   char32_t character;
@@ -54,11 +58,12 @@ struct KZL_API Unmappable : Error {
 // "U+0416"
 KZL_API std::string code_point(char32_t c);
 
-// Code points of UTF-8, and back. from_utf8 throws BadUtf8.
+// The code points of UTF-8. Throws BadUtf8.
 KZL_API std::u32string from_utf8(std::string_view text);
+// UTF-8 of code points, which the caller has checked.
 KZL_API std::string to_utf8(std::u32string_view text);
 
-// Length of the byte-order mark at the beginning of a text in UTF-8; 0 without one.
+// Length in bytes of the byte-order mark at the beginning of a text in UTF-8; 0 without one.
 KZL_API std::size_t byte_order_mark(std::string_view text);
 
 // The bytes of a text in a code page. Throws BadUtf8 and Unmappable, the latter also for a zero. In

@@ -6,8 +6,9 @@
 //       std::cout << entry.view().meanings[0].synonyms[0] << '\n';
 //     // Output: стол
 //
-// All texts are UTF-8. A Dictionary serves one thread at a time: threads open one each, which costs
-// little. Errors are thrown as Error; a word that is not there is no error.
+// Searches keep their place in the Dictionary, so that it serves one thread at a time: threads open
+// one each, which costs a file descriptor, the header and the index. Entries are values that
+// outlive it. A word that is not there is no error.
 #ifndef KZLEXICON_DICTIONARY_H
 #define KZLEXICON_DICTIONARY_H
 
@@ -25,7 +26,7 @@
 
 namespace kz::lexicon {
 
-// What the header of a dictionary file states.
+// What the header of a dictionary file states, and the sizes of its parts in bytes.
 struct Header {
   int generation = 0;    // 1, 2, or 3 for the current format
   std::string language;  // "ENRU"; empty when unknown
@@ -33,14 +34,14 @@ struct Header {
   std::string title;
   std::string label;
   bool has_password = false;
-  bool checksum_agrees = false;
-  int property = 0;
-  int version = 0;
-  std::int64_t time_stamp = 0;  // seconds since 1970
-  bool packed = false;          // front-coded records
-  bool shared = false;          // has a shared-text block
-  int depth = 0;                // of the letter index
-  int alphabet = 0;             // letters of the index
+  bool checksum_agrees = false;  // the checksum of the header is right; of no effect on searches
+  int property = 0;              // as stored
+  int version = 0;               // as stored; 538 before packed records
+  std::int64_t time_stamp = 0;   // seconds since 1970; 0 for none
+  bool packed = false;           // front-coded records
+  bool shared = false;           // has a shared-text block
+  int depth = 0;                 // letters of a word that the index looks at: 2, 3 or 5
+  int alphabet = 0;              // letters that the index knows: 26, 32 or 43
   std::int64_t file_size = 0;
   std::int64_t record_bytes = 0;
   std::int64_t index_bytes = 0;
@@ -49,24 +50,25 @@ struct Header {
 
 // What a walk over the whole dictionary counts.
 struct Statistics {
-  std::size_t blocks = 0;
-  std::int64_t largest_block = 0;
+  std::size_t blocks = 0;          // of records, that the index names
+  std::int64_t largest_block = 0;  // in bytes
   std::size_t records = 0;
-  std::size_t headwords = 0;
-  std::size_t references = 0;  // records that name shared text
-  std::size_t longest_headword = 0;
-  std::size_t longest_record = 0;
+  std::size_t headwords = 0;         // different ones
+  std::size_t references = 0;        // records that name shared text
+  std::size_t longest_headword = 0;  // in characters
+  std::size_t longest_record = 0;    // in characters, unpacked
 };
 
-// An entry found; a value of its own.
+// An entry of a dictionary; a value that does not depend on the dictionary. Every call converts or
+// takes apart the record anew; bytes without a character become U+FFFD.
 class KZL_API Entry {
  public:
-  // `record` is in the code pages of the language.
+  // `record` is in the code pages of the language, "ENRU".
   Entry(std::string record, std::string language);
 
-  std::string text() const;  // the entry as the dictionary has it
-  std::string headword() const;
-  EntryView view() const;
+  std::string text() const;      // the entry as the dictionary has it, "cat*N[|M]кот"
+  std::string headword() const;  // as it is indexed, mostly in lower case
+  EntryView view() const;        // its pieces, without the marks of the format
 
   // The record in the code pages of the dictionary, and the dictionary's language.
   const std::string& record() const { return record_; }
@@ -77,7 +79,8 @@ class KZL_API Entry {
   std::string language_;
 };
 
-// The forms in which a word is looked up, in this order.
+// The forms in which a word is looked up, in this order. The first that has entries ends the
+// search.
 enum class Step {
   kNone,
   kTyped,
@@ -87,55 +90,66 @@ enum class Step {
   kInflected,  // the headword of an inflected form
 };
 
+// The entries found for a word; true when there are any.
 struct Answer {
-  Step step = Step::kNone;  // how the entries were found; kNone when there are none
-  std::vector<Entry> entries;
-  std::string ending;  // "-ами (NF 1)": how an inflected form was understood
+  Step step = Step::kNone;     // how the entries were found; kNone when there are none
+  std::vector<Entry> entries;  // in the order of the dictionary
+  std::string ending;          // of kInflected: "-ами (NF 1)"; empty for a form without ending
 
   explicit operator bool() const { return step != Step::kNone; }
 };
 
-// "as typed", "in lower case", "by its ending -ами (NF 1)"
+// "as typed", "in lower case", "by its ending -ами (NF 1)"; empty for kNone.
 KZL_API std::string describe_step(const Answer& answer);
 
 // The part of a dictionary that a walk covers; empty texts set no bound.
 struct WalkRange {
-  std::string first{};       // the first letter of the first headwords
-  std::string last{};        // the first letter of the last headwords
-  std::string part_codes{};  // only entries with one of these part codes,
-  bool other_codes = false;  // or only entries with none of them
+  std::string first{};       // only headwords that begin with this letter or a later one
+  std::string last{};        // only headwords that begin with this letter or an earlier one
+  std::string part_codes{};  // only entries with one of these part codes, "NV",
+  bool other_codes = false;  // or, when this is set, only entries with none of them
 };
 
 class KZL_API Dictionary {
  public:
-  // Opens a file. Throws Error: kFile when it cannot be opened, kData when it is no dictionary.
+  // Opens a file, which stays open as long as the object. Throws Error: kFile when it cannot be
+  // opened, kData when it is no dictionary.
   explicit Dictionary(const std::string& path);
-  // Opens the bytes of a dictionary file, such as Builder::to_memory gives.
+  // Opens the bytes of a dictionary file, such as Builder::to_memory gives; a copy of them is kept.
+  // `name` stands for the path in path() and in messages. Throws Error: kData, or kFile when there
+  // is no memory for a copy.
   static Dictionary from_memory(std::string_view bytes, const std::string& name = "(memory)");
   ~Dictionary();
   Dictionary(Dictionary&& other) noexcept;
   Dictionary& operator=(Dictionary&& other) noexcept;
 
+  // These live as long as the dictionary and stay the same.
   const std::string& path() const;
-  const std::string& language() const;
+  const std::string& language() const;  // "ENRU"; empty when the header names none
   const Header& header() const;
-  // Reads the whole dictionary.
+  // Opens the file anew and reads all of it. Throws Error when it cannot be opened.
   Statistics statistics() const;
 
-  // The entries of a headword, by the first step that has any. `next` asks for so many of the
-  // entries that follow them.
+  // The searches throw BadUtf8 for a word that is not UTF-8, and no other Error: a word that the
+  // dictionary cannot have has an empty answer.
+
+  // The entries of a headword, by the first step that has any. `next` asks for that many of the
+  // entries that follow; the answer has them after those of the word.
   Answer find(std::string_view word, std::size_t next = 0);
-  // All entries whose headword begins with the word, by the first step that has any.
+  // All entries whose headword begins with the word, by the first step that has any. The empty word
+  // has none; entries() has all.
   Answer find_prefix(std::string_view word);
   // An answer for each headword that the word may be a form of, the most likely first. Only
-  // dictionaries from Russian have any.
+  // dictionaries from Russian have any; find() does not look for inflected forms.
   std::vector<Answer> find_inflected(std::string_view word, const Inflector& inflector);
 
   // The entries of a range, in the order of the file:
   //
   //   for (const Entry& entry : dictionary.entries()) ...
   //
-  // A walk has a place of its own; searches do not disturb it, and it may outlive the dictionary.
+  // A walk opens the file anew: searches do not disturb it, and it may outlive the dictionary.
+  // Throws Error: kFile when the file cannot be opened any more, kArgument for a bound that is no
+  // letter of the dictionary, kCodePage and kData for texts that its code page cannot hold.
   class Walk;
   Walk entries(const WalkRange& range = {}) const;
 
@@ -148,6 +162,8 @@ class KZL_API Dictionary {
 
 class KZL_API Dictionary::Walk {
  public:
+  // An input iterator: it reads one entry after the other, and *it is valid until ++it. It belongs
+  // to the walk, which must neither move nor end while it is in use.
   class KZL_API Iterator {
    public:
     using iterator_category = std::input_iterator_tag;
@@ -175,8 +191,9 @@ class KZL_API Dictionary::Walk {
   Walk(Walk&& other) noexcept;
   Walk& operator=(Walk&& other) noexcept;
 
-  // The walk goes on where it is: begin() is the next entry. Throws Error, as ++ does, when the
-  // dictionary cannot be read.
+  // The walk goes on where it is: begin() is the next entry, so that a loop that was left by break
+  // can be continued by another. Throws Error (kFile), as ++ does, when the dictionary cannot be
+  // read.
   Iterator begin() { return next() ? Iterator(this) : Iterator(); }
   Iterator end() const { return {}; }
 

@@ -6,6 +6,8 @@
 //       if (const Answer answer = dictionary.find("table"))
 //         std::cout << dictionary.path() << ": " << answer.entries.size() << '\n';
 //     // Output: ./baseenru.dic: 1
+//
+// A set serves one thread at a time, together with its dictionaries.
 #ifndef KZLEXICON_DICTIONARY_SET_H
 #define KZLEXICON_DICTIONARY_SET_H
 
@@ -27,21 +29,24 @@ struct MissingDictionary {
 };
 
 struct SetOptions {
-  std::string directory;  // where the base dictionaries and relative paths are
-  std::string direction;  // "ENRU"; may be empty when `config` names one
-  std::string config;     // a parameter string (docs/sets.md); empty for the base dictionaries
+  std::string directory;    // where the base dictionaries and relative paths are
+  std::string direction{};  // "ENRU"; may be empty when `config` names one
+  std::string config{};     // a parameter string (docs/sets.md); empty for the base dictionaries
 };
 
 class KZL_API DictionarySet {
  public:
-  // Opens the set. Throws Error when no dictionary of it can be loaded.
+  // Opens the set. Throws Error: kArgument for a direction or configuration that is none, kFile
+  // when the directory is none or no dictionary can be loaded. Dictionaries that are not there
+  // while others are is no error; missing() has them.
   explicit DictionarySet(const SetOptions& options);
   ~DictionarySet();
   DictionarySet(DictionarySet&& other) noexcept;
   DictionarySet& operator=(DictionarySet&& other) noexcept;
 
-  // In the order of a search; they live as long as the set.
+  // In the order of a search. They belong to the set and live as long as it; do not move from them.
   std::span<Dictionary> dictionaries();
+  // What was not found where it should be; as long as the set.
   const std::vector<MissingDictionary>& missing() const;
 
  private:

@@ -11,7 +11,7 @@
 //     std::cout << writer.lines({.headword = "bow", .part_code = "N",
 //                                .meanings = {{.synonyms = {"лук", "поклон (fig.)"}}}})[0] << '\n';
 //     // Output: ENRU cat*Nкот
-//     // Output: bow*Nлук;поклон {(fig.)}
+//     // Output: bow*Nлук;поклон ({fig.})
 #ifndef KZLEXICON_SOURCE_H
 #define KZLEXICON_SOURCE_H
 
@@ -30,6 +30,7 @@
 
 namespace kz::lexicon {
 
+// A line with an entry.
 struct SourceLine {
   std::size_t file = 0;  // index into SourceText::files
   std::size_t line = 0;  // counted from 1
@@ -42,6 +43,7 @@ struct Property {
   Place place{};  // of a directive; without a file for an option
 };
 
+// The properties of a dictionary; BuildOptions describes the values.
 struct Properties {
   Property language{};
   Property type{};
@@ -49,43 +51,48 @@ struct Properties {
   Property label{};
 };
 
+// Source text of one or several files.
 struct SourceText {
-  std::vector<std::string> files;
+  std::vector<std::string> files;  // paths, or the names that the caller gave
   std::vector<SourceLine> lines;
   Properties properties;
 
   Place place(const SourceLine& line) const { return {files[line.file], line.line}; }
 };
 
+// Parts source text into lines and directives. It checks directives; Builder checks the entries.
 class KZL_API SourceReader {
  public:
   // Properties that options state win over all directives.
   explicit SourceReader(Properties options = {});
 
   // Adds a text; `name` stands for it in messages. A text may repeat the directives of those before
-  // but not contradict them. Throws Error.
+  // but not contradict them. Throws Error: kFile for a file or stream that cannot be read, kData
+  // for a directive that is unknown or contradicts; what was added before the failure stays.
   SourceReader& add(std::string_view text, const std::string& name);
   SourceReader& add(std::istream& text, const std::string& name);
   SourceReader& add_file(const std::string& path);
 
+  // Everything that was added. The reader is used up.
   SourceText take() { return std::move(source_); }
 
  private:
   SourceText source_;
 };
 
-// An entry in plain text, of which nothing is a mark of the format.
+// An entry in plain text, of which nothing is a mark of the format. Remarks in parentheses are kept
+// apart from the words of a synonym: "поклон (fig.)".
 struct PlainMeaning {
-  int number = 0;  // 0: without a number
-  std::string definition{};
-  std::vector<std::string> synonyms{};
+  int number = 0;                       // 0: without a number
+  std::string definition{};             // which of the meanings it is: "furniture"
+  std::vector<std::string> synonyms{};  // the translations
 };
 
 struct PlainEntry {
-  std::string headword;
-  std::string spelling{};  // as written, where that differs
-  std::string part_code = "W";
-  std::string attribute{};  // tags without brackets
+  std::string headword;    // in any case
+  std::string spelling{};  // as written, where that differs from the headword by more than case
+  std::string part_code = "W";  // one character, "N"; "W" is a phrase
+  std::string attribute{};      // tags without brackets (kzlexicon/grammar.h)
   std::vector<PlainMeaning> meanings{};
 };
 
@@ -97,16 +104,20 @@ struct Losses {
   std::size_t meanings = 0;     // without any synonym
 };
 
+// Makes source lines of plain entries, and counts what they cannot hold.
 class KZL_API SourceWriter {
  public:
+  // `language` is that of the dictionary, "ENRU".
   explicit SourceWriter(const std::string& language);
   ~SourceWriter();
   SourceWriter(SourceWriter&& other) noexcept;
   SourceWriter& operator=(SourceWriter&& other) noexcept;
 
   // The entry as source lines: several with the same headword when it does not fit one, none when
-  // no meaning is left of it.
+  // no meaning is left of it. Throws Error: kArgument for a part code that is not one character,
+  // kCodePage for one that Windows-1251 lacks, BadUtf8.
   std::vector<std::string> lines(const PlainEntry& entry);
+  // Of all entries so far; as long as the writer.
   const Losses& losses() const;
 
  private:
@@ -117,19 +128,21 @@ class KZL_API SourceWriter {
 // Turns the entries of a dictionary back into the lines of which they were built.
 class KZL_API SourceFormatter {
  public:
+  // `header` is that of the dictionary; it is copied.
   explicit SourceFormatter(const Header& header);
   ~SourceFormatter();
   SourceFormatter(SourceFormatter&& other) noexcept;
   SourceFormatter& operator=(SourceFormatter&& other) noexcept;
 
-  // The directives that state the properties of the dictionary.
+  // The lines of the directives that state the properties of the dictionary.
   std::string directives() const;
 
   struct Line {
-    std::string text;   // UTF-8
+    std::string text;   // without a line feed
     bool exact = true;  // a build makes the same entry of it
   };
-  // A headword that was stored in lower case has its spelling again.
+  // The line of an entry of this dictionary. A headword that was stored in lower case has its
+  // spelling again.
   Line line(const Entry& entry) const;
 
  private:

@@ -88,6 +88,21 @@ HeaderText header_of(const BuildOptions& options) {
           options.time_stamp};
 }
 
+// "cat: characters written otherwise or dropped: 1"; empty when nothing is lost.
+std::string describe(const Losses& losses, const std::string& headword) {
+  const std::array<std::pair<std::size_t, const char*>, 4> counts = {
+      {{losses.characters, "characters written otherwise or dropped"},
+       {losses.definitions, "definitions dropped"},
+       {losses.synonyms, "synonyms dropped"},
+       {losses.meanings, "meanings dropped"}}};
+  std::string text;
+  for (const auto& [count, what] : counts) {
+    if (count == 0) continue;
+    text += (text.empty() ? headword + ": " : ", ") + what + ": " + std::to_string(count);
+  }
+  return text;
+}
+
 std::size_t count_headwords(const std::vector<Record>& records) {
   std::size_t count = 0;
   for (std::size_t i = 0; i < records.size(); ++i) {
@@ -128,6 +143,8 @@ struct Builder::Impl {
     return files.size() - 1;
   }
 
+  // Throws when the dictionary was made or tried.
+  void check_unused() const;
   void add(std::string_view text, std::size_t file, std::size_t number, std::size_t column);
   void refuse(ErrorCode code, const std::string& message, std::size_t line);
   template <typename Why>
@@ -151,7 +168,12 @@ struct Builder::Impl {
   std::vector<Diagnostic> diagnostics;
   std::size_t refused = 0;
   ErrorCode first_refusal = ErrorCode::kData;
+  bool used = false;
 };
+
+void Builder::Impl::check_unused() const {
+  if (used) throw Error(ErrorCode::kArgument, "the builder has made its dictionary");
+}
 
 void Builder::Impl::refuse(ErrorCode code, const std::string& message, std::size_t line) {
   if (refused++ == 0) first_refusal = code;
@@ -160,6 +182,7 @@ void Builder::Impl::refuse(ErrorCode code, const std::string& message, std::size
 
 void Builder::Impl::add(std::string_view text, std::size_t file, std::size_t number,
                         std::size_t column) {
+  check_unused();
   lines.push_back({std::string(text), file, number, column});
   const std::size_t line = lines.size() - 1;
   try {
@@ -283,6 +306,8 @@ int Builder::Impl::settle() {
 
 // Writes to an empty open file, which can be opened by the path; `name` is that of messages.
 BuildSummary Builder::Impl::write(int handle, const std::string& path, const std::string& name) {
+  check_unused();
+  used = true;
   BuildSummary summary;
   summary.depth = settle();
   const SharedText shared = place_bodies(records, options.packed, may_share);
@@ -337,10 +362,15 @@ Builder::~Builder() = default;
 Builder::Builder(Builder&& other) noexcept = default;
 Builder& Builder::operator=(Builder&& other) noexcept = default;
 
-Builder& Builder::add(const PlainEntry& entry) {
+Builder& Builder::add(const PlainEntry& entry, const Place& place) {
+  impl_->check_unused();
   SourceWriter writer(impl_->options.language);
-  const std::vector<std::string> lines = writer.lines(entry);
-  for (const std::string& line : lines) add_line(line);
+  for (const std::string& line : writer.lines(entry)) add_line(line, place);
+  std::string losses = describe(writer.losses(), entry.headword);
+  if (!losses.empty()) {
+    impl_->diagnostics.push_back(
+        {Diagnostic::Severity::kWarning, ErrorCode::kCodePage, place, std::move(losses)});
+  }
   return *this;
 }
 

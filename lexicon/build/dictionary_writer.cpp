@@ -93,7 +93,7 @@ class Output {
 
   void write(std::string_view bytes) {
     if (bytes.size() > std::numeric_limits<std::int32_t>::max() - size_) {
-      throw Error(ErrorCode::kData, name_ + ": a dictionary cannot be larger than 2 GB");
+      throw Error(ErrorCode::kData, "a dictionary cannot be larger than 2 GB", {name_});
     }
     const auto count = static_cast<unsigned>(bytes.size());
     if (count != 0 && file_.Write(bytes.data(), count) != count) fail("cannot write");
@@ -103,7 +103,7 @@ class Output {
   void rewind() { file_.SeekToBegin(); }
 
   [[noreturn]] void fail(const std::string& what) const {
-    throw Error(ErrorCode::kFile, name_ + ": " + what + ": " + std::strerror(errno));
+    throw Error(ErrorCode::kFile, what + ": " + std::strerror(errno), {name_});
   }
 
  private:
@@ -186,7 +186,7 @@ Written write_dictionary(int handle, const std::string& name, const HeaderText& 
   CDicIndex index('R');
   if (index.Init(0, text.language.c_str(), text.type.c_str(), alphabet, 0, depth, kFormatVersion, 0,
                  0) == 0) {
-    throw Error(ErrorCode::kFile, name + ": not enough memory for the index");
+    throw Error(ErrorCode::kFile, "not enough memory for the index", {name});
   }
 
   Header header;

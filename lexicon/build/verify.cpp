@@ -12,9 +12,10 @@ namespace {
 
 void expect(const std::string& name, const char* found, const Record& record) {
   if (found != nullptr && record.text == found) return;
-  throw Error(ErrorCode::kData, name + ": the finished dictionary cannot be searched: '" +
-                                    record.headword +
-                                    (found == nullptr ? "' is not found" : "' reads otherwise"));
+  throw Error(ErrorCode::kData,
+              "the finished dictionary cannot be searched: '" + record.headword +
+                  (found == nullptr ? "' is not found" : "' reads otherwise"),
+              {name});
 }
 
 }  // namespace
@@ -36,7 +37,7 @@ void verify_dictionary(const std::string& path, const std::string& name,
     expect(name, found, records[i]);
   }
   if (DicFindNext(dictionary.get(), DIC_LEVEL_FULL) != nullptr) {
-    throw Error(ErrorCode::kData, name + ": the finished dictionary has records too many");
+    throw Error(ErrorCode::kData, "the finished dictionary has records too many", {name});
   }
 }
 

@@ -46,8 +46,8 @@ Text read_text(const std::string& path, std::size_t kept, std::size_t limit) {
     count = gzread(file.get(), buffer.data(), buffer.size());
     const std::size_t size = count > 0 ? static_cast<std::size_t>(count) : 0;
     if (size > limit - text.length) {
-      throw Error(ErrorCode::kData,
-                  path + ": the text is longer than " + std::to_string(limit) + " bytes");
+      throw Error(ErrorCode::kData, "the text is longer than " + std::to_string(limit) + " bytes",
+                  {path});
     }
     text.length += size;
     text.beginning.append(buffer.data(), std::min(size, kept - text.beginning.size()));

@@ -185,7 +185,9 @@ Dictionary Dictionary::from_memory(std::string_view bytes, const std::string& na
   try {
     return Dictionary(std::make_unique<Impl>(memory->path(), name, memory));
   } catch (const Error& error) {
-    throw Error(error.code(), error.message(), {name});
+    Place place = error.place();
+    place.file = name;
+    throw Error(error.code(), error.message(), place);
   }
 }
 

@@ -32,7 +32,7 @@ constexpr std::int16_t kKinds = 3;
 // The text of a table, beside it.
 std::string text_path(const std::string& path) {
   if (!path.ends_with(kCompiledExtension)) {
-    throw Error(ErrorCode::kArgument, path + ": the name of an inflection table ends in .Dat");
+    throw Error(ErrorCode::kArgument, "the name of an inflection table ends in .Dat", {path});
   }
   return path.substr(0, path.size() - kCompiledExtension.size()) + ".txt";
 }
@@ -140,10 +140,10 @@ std::string compile(const std::string& lines, const std::string& source) {
     append_number(entries, static_cast<std::uint32_t>(ending.size()), 1);
     for (const char c : ending) entries += static_cast<char>(c ^ kTextKey);
   }
-  if (count == 0) throw Error(ErrorCode::kData, source + ": holds no endings");
+  if (count == 0) throw Error(ErrorCode::kData, "holds no endings", {source});
   if (count > kMostEndings) {
-    throw Error(ErrorCode::kData,
-                source + ": more than " + std::to_string(kMostEndings) + " endings");
+    throw Error(ErrorCode::kData, "more than " + std::to_string(kMostEndings) + " endings",
+                {source});
   }
   std::string bytes;
   append_number(bytes, static_cast<std::uint32_t>(count), 2);
@@ -195,14 +195,15 @@ std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path) {
   errno = 0;
   if (file.Open(path.c_str(), kReadDenyingWrite) == 0) {
     const std::string reason = std::strerror(errno);
-    throw Error(ErrorCode::kFile, path + ": cannot open: " + reason + kHint);
+    throw Error(ErrorCode::kFile, "cannot open: " + reason + kHint, {path});
   }
   // By a name without ".Dat" it reads this file or none, and writes none.
   const std::string name = "/proc/self/fd/" + std::to_string(static_cast<int>(file));
   auto table = std::make_unique<CGrSrcWordFlex>();
   // An empty one would be looked for again.
   if (table->Load(name.c_str(), "", 1) != 0 || table->GetFirstFlex() == nullptr) {
-    throw Error(ErrorCode::kData, path + ": not an inflection table, or a damaged one" + kHint);
+    throw Error(ErrorCode::kData, std::string("not an inflection table, or a damaged one") + kHint,
+                {path});
   }
   return table;
 }

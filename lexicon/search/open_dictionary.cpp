@@ -14,11 +14,13 @@ DictionaryHandle open_dictionary(const std::string& path, std::int16_t mode) {
   const std::uint16_t code = kz_dict_dic_errno();
   const int reason = kz_dict_errno();
   if (code == DIC_ERR_FORMAT) {
-    throw Error(ErrorCode::kData, path + ": offset 0: not a dictionary, or a damaged one");
+    throw Error(ErrorCode::kData, "not a dictionary, or a damaged one", {path, 0, 0, 0});
   }
-  if (code == DIC_ERR_MEMORY) throw Error(ErrorCode::kFile, path + ": not enough memory");
-  throw Error(ErrorCode::kFile, path + ": cannot open: " +
-                                    (reason != 0 ? std::strerror(reason) : "not a regular file"));
+  if (code == DIC_ERR_MEMORY) throw Error(ErrorCode::kFile, "not enough memory", {path});
+  throw Error(
+      ErrorCode::kFile,
+      std::string("cannot open: ") + (reason != 0 ? std::strerror(reason) : "not a regular file"),
+      {path});
 }
 
 }  // namespace kz::lexicon
