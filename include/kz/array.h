@@ -9,7 +9,9 @@
 //   words.Add("table");
 //   words.InsertAt(0, "chair", 1);  // chair, table
 //   words.Move(2, 0, 1);
-//   for (int i = 0; i < words.GetSize(); i++) puts(words.GetAt(i));  // prints "table", "chair"
+//   for (int i = 0; i < words.GetSize(); i++) puts(words.GetAt(i));
+//   // Output: table
+//   // Output: chair
 //
 // Growth: the first allocation is exact. Later ones add the array's grow-by elements or, when that
 // is 0, an eighth of the size (at least 4, at most 1024), so that repeated Add stays cheap.

@@ -9,7 +9,8 @@
  *
  *   int c = 0xC4;  // a Russian capital of Windows-1251
  *   if (ischalpha(c, "RUEN", 1)) c = toruansilower(c);
- *   printf("%X\n", c);  // prints "E4", the small letter
+ *   printf("%X\n", c);  // the small letter
+ *   // Output: E4
  */
 #ifndef KZ_CHARCLASS_H
 #define KZ_CHARCLASS_H

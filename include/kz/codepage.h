@@ -8,7 +8,7 @@
  *
  *   char line[] = "\xE4\xEE\xEC";             // three letters of Windows-1251
  *   char* end = strruansitooem(line, line);  // now CP866, in place; *end is the final zero
- *   printf("%d %X\n", (int)(end - line), (unsigned char)line[0]);  // prints "3 A4"
+ *   printf("%d %X\n", (int)(end - line), (unsigned char)line[0]);  // Output: 3 A4
  */
 #ifndef KZ_CODEPAGE_H
 #define KZ_CODEPAGE_H

@@ -6,7 +6,7 @@
  * yo is before all other Russian letters in Windows-1251 and after them in CP866.
  *
  *   const char* headword = "\xC9" "cole";  // with an accent on its first letter
- *   if (stransiaicmp("ecole", headword, "FR") == 0) puts("found");  // prints "found"
+ *   if (stransiaicmp("ecole", headword, "FR") == 0) puts("found");  // Output: found
  */
 #ifndef KZ_COMPARE_H
 #define KZ_COMPARE_H

@@ -9,10 +9,12 @@
  *   CDicSys* set = DicSysOpen(1, "ENRU", "./");
  *   DicArrayAddPath(set, DIC_APPEND, "ENRU", "pets.dic:2;baseenru.dic:0");
  *   DicArrayLoad(set, DicArraySelect(set, 0), 1);
- *   printf("%d loaded\n", DicQueGetSize(set, DIC_LIST_TRANSLATION));  // prints "2 loaded"
+ *   printf("%d loaded\n", DicQueGetSize(set, DIC_LIST_TRANSLATION));  // Output: 2 loaded
  *   char text[256] = "";
  *   DicArrayParmStr(set, text);
- *   puts(text);  // prints "", "-CENRU pets.dic:2;baseenru.dic:0"
+ *   puts(text);
+ *   // Output:
+ *   // Output: -CENRU pets.dic:2;baseenru.dic:0
  *   DicSysClose(set);
  *
  * A descriptor's path that holds neither '/' nor '\' is a file name in the directory of the set,

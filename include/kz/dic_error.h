@@ -8,7 +8,7 @@
  *
  *   CDic* dictionary = DicOpen("missing.dic", DIC_MODE_PLAIN);
  *   if (!dictionary && kz_dict_dic_errno() == DIC_ERR_FILE)
- *     puts(strerror(kz_dict_errno()));  // prints "No such file or directory"
+ *     puts(strerror(kz_dict_errno()));  // Output: No such file or directory
  */
 #ifndef KZ_DIC_ERROR_H
 #define KZ_DIC_ERROR_H

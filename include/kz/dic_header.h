@@ -7,7 +7,7 @@
  *
  *   DicHeader header;
  *   if (DicHeaderOpen("baseenru.dic", &header, 0) == DIC_OK)
- *     printf("%.40s\n", header.Title);  // prints "KZ sample dictionary, English-Russian"
+ *     printf("%.40s\n", header.Title);  // Output: KZ sample dictionary, English-Russian
  */
 #ifndef KZ_DIC_HEADER_H
 #define KZ_DIC_HEADER_H

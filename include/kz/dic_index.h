@@ -7,10 +7,10 @@
  * looks into the index of an open dictionary, and the kz_codr comparisons put letters with
  * accents in order.
  *
- *   printf("%d\n", Index0('d', "ENRU", 26));  // prints "3"
+ *   printf("%d\n", Index0('d', "ENRU", 26));  // Output: 3
  *   CDic* dictionary = DicOpen("pets.dic", DIC_MODE_PLAIN);
- *   if (DicSizeX(dictionary, "dog") > 0) puts("in a block");  // prints "in a block"
- *   if (DicSizeX(dictionary, "Dog") == -1) puts("a capital");  // prints "a capital"
+ *   if (DicSizeX(dictionary, "dog") > 0) puts("in a block");  // Output: in a block
+ *   if (DicSizeX(dictionary, "Dog") == -1) puts("a capital");  // Output: a capital
  *   DicClose(dictionary);
  */
 #ifndef KZ_DIC_INDEX_H

@@ -9,7 +9,9 @@
  *   CDicEntryIterator* nouns = DicIteratorOpen(0, "pets.dic", "a", "", 0, "Nn", 1);
  *   const char* record = DicIteratorGetFirstEntry(nouns, word, 0, 0, 0, DIC_SEARCH_EXACT);
  *   for (; record; record = DicIteratorGetNextEntry(nouns, word, 0, 0, 0))
- *     puts(word);  // prints "cat", "dog"
+ *     puts(word);
+ *     // Output: cat
+ *     // Output: dog
  *   DicIteratorClose(nouns);
  *
  * The position of a walk is the search state of its dictionary: a search there in between disturbs

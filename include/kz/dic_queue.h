@@ -12,7 +12,9 @@
  *   const char* entry =
  *       DicQueFind(set, DIC_LIST_TRANSLATION, "dog", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
  *   while (entry) {
- *     puts(entry);  // prints "dog*N[|F]собака;пёс[M]", "dog*N[|F@]собака;пёс[M@]"
+ *     puts(entry);
+ *     // Output: dog*N[|F]собака;пёс[M]
+ *     // Output: dog*N[|F@]собака;пёс[M@]
  *     if (!DicQueNext(set, DIC_LIST_TRANSLATION)) break;
  *     entry = DicQueFindRest(set, DIC_LIST_TRANSLATION, "dog", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
  *   }

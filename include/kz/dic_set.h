@@ -9,7 +9,7 @@
  *   DicQueFirst(set, DIC_LIST_TRANSLATION, 0);
  *   const char* entry =
  *       DicQueFind(set, DIC_LIST_TRANSLATION, "bread", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
- *   if (entry) puts(entry);  // prints "bread*N[-P|M]хлеб"
+ *   if (entry) puts(entry);  // Output: bread*N[-P|M]хлеб
  *   DicSysClose(set);
  *
  * Every function does nothing for a null set and returns what is said then. A set serves one thread

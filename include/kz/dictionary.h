@@ -7,7 +7,7 @@
  *
  *   CDic* dictionary = DicOpen("baseenru.dic", DIC_MODE_PLAIN);
  *   const char* entry = DicFind(dictionary, "dog", DIC_SEARCH_EXACT, DIC_LEVEL_FULL);
- *   if (entry) puts(entry);  // prints "dog*N[|F@]собака;пёс[M@]"
+ *   if (entry) puts(entry);  // Output: dog*N[|F@]собака;пёс[M@]
  *   DicClose(dictionary);
  *
  * A dictionary serves one thread at a time. */

@@ -7,7 +7,7 @@
  *
  *   int engine = 0;  // whatever the modules share
  *   int16_t handle = SetKZEngine(&engine, 0);
- *   if (KZEngine((uint16_t)handle) == &engine) puts("shared");  // prints "shared"
+ *   if (KZEngine((uint16_t)handle) == &engine) puts("shared");  // Output: shared
  *   FreeEngineHandler((uint16_t)handle);
  *   kz_data_free();
  */

@@ -10,7 +10,9 @@
  *   const char* text = "\xF1\xF2\xEE\xEB*N1.table;desk/2.board";
  *   CDicEntry* entry = DicEntryOpen(text, DIC_PART_IN_TEXT, 0, 0, "RUEN", DIC_KIND_SPACED);
  *   for (int16_t i = 0; i < DicEntryGetMeaningsSize(entry); i++)
- *     puts(DicEntryGetSynonym(entry, i, 0, 0));  // prints "table", "board"
+ *     puts(DicEntryGetSynonym(entry, i, 0, 0));
+ *     // Output: table
+ *     // Output: board
  *   DicEntryClose(entry);
  */
 #ifndef KZ_ENTRY_H

@@ -10,7 +10,7 @@
  *   // A German headword and its Russian translation, each with a byte FC.
  *   char line[32];
  *   DicEntryAnsiToOem("T\xFCr*N\xE4\xE2\xE5\xF0\xFC", line, "DERU");
- *   printf("%X %X\n", (unsigned char)line[1], (unsigned char)line[9]);  // prints "81 EC"
+ *   printf("%X %X\n", (unsigned char)line[1], (unsigned char)line[9]);  // Output: 81 EC
  *
  * Destinations hold the source's length plus one byte and may be the source itself. `language` is a
  * language or direction code in capitals; source and destination may not be null. */

@@ -6,9 +6,12 @@
  * entry text. Returned pointers point into the text passed in; no scan passes the terminating
  * zero. Russian text is Windows-1251, other text Windows-1252; all markers are ASCII.
  *
- *   puts(SkipLabels("a)b)word"));  // prints "word"
+ *   puts(SkipLabels("a)b)word"));  // Output: word
  *   for (const char* part = "cabinNhutVhouse"; *part; part = GetNextPart(part + 1, "RUEN", 'N'))
- *     puts(part);  // prints "cabinNhutVhouse", "NhutVhouse", "Vhouse"
+ *     puts(part);
+ *     // Output: cabinNhutVhouse
+ *     // Output: NhutVhouse
+ *     // Output: Vhouse
  */
 #ifndef KZ_ENTRY_TEXT_H
 #define KZ_ENTRY_TEXT_H

@@ -8,7 +8,9 @@
 //   ZCFile file;
 //   if (file.Open("words.txt", KZ_FILE_READ | KZ_FILE_SHARE_READ)) {
 //     ZCString line;
-//     while (file.ReadString(line) != nullptr) puts(line);  // prints "cat", "dog"
+//     while (file.ReadString(line) != nullptr) puts(line);
+//     // Output: cat
+//     // Output: dog
 //     file.Close();
 //   }
 //

@@ -8,7 +8,7 @@
 //   char code[64];
 //   coder.CodeOrfo("house", code);                  // 0, "house" inverted, zero byte
 //   int length = coder.CodeOrfo("houses", code);    // 5, "s" inverted, zero byte
-//   printf("%d bytes, %d shared\n", length, code[0]);  // prints "2 bytes, 5 shared"
+//   printf("%d bytes, %d shared\n", length, code[0]);  // Output: 2 bytes, 5 shared
 #ifndef KZ_FRONT_CODING_H
 #define KZ_FRONT_CODING_H
 

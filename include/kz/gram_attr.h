@@ -8,8 +8,8 @@
  *   uint32_t attributes[2] = {2, 12};  // class "NMa", paradigm 12
  *   GRAMINFO gram = {{0}};
  *   SetGrSrcAttr(&gram, attributes);
- *   printf("%c\n", (int)(gram.word[2] >> GRAM_CODE_SHIFT & 0xFF));  // prints "N"
- *   if (gram.word[1] & GRAM_MASCULINE) puts("masculine");           // prints "masculine"
+ *   printf("%c\n", (int)(gram.word[2] >> GRAM_CODE_SHIFT & 0xFF));  // Output: N
+ *   if (gram.word[1] & GRAM_MASCULINE) puts("masculine");  // Output: masculine
  */
 #ifndef KZ_GRAM_ATTR_H
 #define KZ_GRAM_ATTR_H

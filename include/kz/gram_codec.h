@@ -10,7 +10,7 @@
  *   SEMANTICS semantics = {0};
  *   char code = 0, area[2] = {0}, text[GRAM_STRING_SIZE];
  *   StrToGram("F@S#7%N]", &code, &gram, &semantics, 'N', area);
- *   puts(GramToStr('N', &gram, &semantics, text));  // prints "FS@#7%N"
+ *   puts(GramToStr('N', &gram, &semantics, text));  // Output: FS@#7%N
  */
 #ifndef KZ_GRAM_CODEC_H
 #define KZ_GRAM_CODEC_H

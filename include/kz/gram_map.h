@@ -9,7 +9,8 @@
  *   uint8_t record[WORD_RECORD_SIZE] = {0};
  *   record[WORD_RECORD_CODE] = 'N';
  *   re_get_wgram(0, "[FS|P]", record, 'N');  // the Russian word, then its English translation
- *   printf("%d\n", record[WORD_RECORD_GENDER]);  // prints "2", the Russian feminine
+ *   printf("%d\n", record[WORD_RECORD_GENDER]);  // the Russian feminine
+ *   // Output: 2
  */
 #ifndef KZ_GRAM_MAP_H
 #define KZ_GRAM_MAP_H

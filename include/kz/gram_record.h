@@ -10,7 +10,8 @@
  *   char code = 'N';
  *   char area[2];
  *   StrToGram("MS#12", &code, table.GetGramInfo(), table.GetSemantics(), 'N', area);
- *   printf("%d\n", table.GetGender());  // prints "1", masculine
+ *   printf("%d\n", table.GetGender());  // masculine
+ *   // Output: 1
  */
 #ifndef KZ_GRAM_RECORD_H
 #define KZ_GRAM_RECORD_H

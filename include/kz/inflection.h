@@ -9,7 +9,7 @@
 //   char word[] = "cnjkfvb", text[GR_SRC_FLEX_STRING_SIZE];
 //   strruscase(word);  // the keys of the word столами
 //   if (table->Load("ruflex.Dat", "./", 1) == 0 && table->FindStrAttr(word, text, 0))
-//     puts(text);  // prints "ами NM 1  | NF 1  | N 1  | NP 1 "
+//     puts(text);  // Output: ами NM 1  | NF 1  | N 1  | NP 1
 #ifndef KZ_INFLECTION_H
 #define KZ_INFLECTION_H
 

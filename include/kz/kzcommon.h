@@ -3,7 +3,7 @@
  * C programs get the plain functions, C++ programs the classes too. Each family has a header of its
  * own, which begins with what it is for; include that one where it is enough.
  *
- *   puts(kz_locl_language("enru"));  // prints "EN"
+ *   puts(kz_locl_language("enru"));  // Output: EN
  */
 #ifndef KZ_KZCOMMON_H
 #define KZ_KZCOMMON_H

@@ -6,7 +6,7 @@
  * Windows-1252; the letter classes hold small letters only.
  *
  *   char direction[] = "ENRU";
- *   if (kz_locl_is_en_language(direction)) puts(InvertLanguages(direction));  // prints "RUEN"
+ *   if (kz_locl_is_en_language(direction)) puts(InvertLanguages(direction));  // Output: RUEN
  */
 #ifndef KZ_LANGUAGE_H
 #define KZ_LANGUAGE_H

@@ -8,7 +8,10 @@
 //   CStrLex lex(";,");
 //   char token[80];
 //   for (const char* at = lex.First("a;b,,c", token); at; at = lex.Next(token))
-//     puts(token);  // prints "a", "b", "c"
+//     puts(token);
+//     // Output: a
+//     // Output: b
+//     // Output: c
 #ifndef KZ_LEXER_H
 #define KZ_LEXER_H
 

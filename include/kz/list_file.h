@@ -6,7 +6,7 @@
 //
 //   CListFile list;
 //   if (list.Load("units.txt", "./") == 0)
-//     if (const char* unit = list.Find("km/h")) puts(unit);  // prints "kilometre"
+//     if (const char* unit = list.Find("km/h")) puts(unit);  // Output: kilometre
 #ifndef KZ_LIST_FILE_H
 #define KZ_LIST_FILE_H
 

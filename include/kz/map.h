@@ -12,7 +12,7 @@
 //   ZCObject* value;
 //   for (POSITION at = map.GetStartPosition(); at != nullptr;) {
 //     map.GetNextAssoc(at, key, value);
-//     puts(key);  // prints "table"
+//     puts(key);  // Output: table
 //   }
 #ifndef KZ_MAP_H
 #define KZ_MAP_H

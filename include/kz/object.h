@@ -4,7 +4,7 @@
 // point to; the virtual destructor lets an owner delete an object through such a pointer.
 //
 //   struct Word : ZCObject {
-//     ~Word() override { puts("deleted"); }  // prints "deleted"
+//     ~Word() override { puts("deleted"); }  // Output: deleted
 //   };
 //   ZCObArray words;
 //   words.Add(new Word);

@@ -7,7 +7,7 @@
  * the library:
  *
  *   static int show(const char* text, const char* caption, unsigned int type, void* window) {
- *     printf("%s: %s\n", caption, text);  // prints "Message: Saved"
+ *     printf("%s: %s\n", caption, text);  // Output: Message: Saved
  *     return 1;
  *   }
  *   kz_platform_set_message_box(show, 0);

@@ -10,7 +10,9 @@
  *   enque(&queue, newqueobj(5));
  *   enque(&queue, newqueobj(7));
  *   for (KZQUEOBJ* one; (one = deque(&queue)) != NULL; kz_misc_free(one))
- *     printf("%d\n", (int)one->data);  // prints "5", "7"
+ *     printf("%d\n", (int)one->data);
+ *     // Output: 5
+ *     // Output: 7
  */
 #ifndef KZ_QUEUE_H
 #define KZ_QUEUE_H

@@ -7,7 +7,7 @@
  *   CFindBuffer list(0);
  *   char output[64];
  *   if (list.Load("replace.txt") == 0)
- *     puts(ChangeWord(&list, "the cat", output));  // prints "the dog"
+ *     puts(ChangeWord(&list, "the cat", output));  // Output: the dog
  *
  * The text begins with "\r\n", lines end with "\r\n". A line is a word, or a word, "=" and its
  * replacement, which may be empty. The text holds fewer than 16,000 characters after its leading

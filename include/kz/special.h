@@ -9,7 +9,8 @@
  *
  *   char word[] = "Mu\"ller";
  *   kz_codr_create_spec_chars(word, word, "DERU");
- *   printf("%d letters\n", (int)strlen(word));  // prints "6 letters", the umlaut is one
+ *   printf("%d letters\n", (int)strlen(word));  // the umlaut is one
+ *   // Output: 6 letters
  */
 #ifndef KZ_SPECIAL_H
 #define KZ_SPECIAL_H

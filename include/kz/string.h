@@ -11,7 +11,7 @@
 //   if (word.IsFlex("s")) word = word.Left(word.GetLength() - 1);
 //   ZCString message;
 //   message.Format("%s: %d characters", static_cast<const char*>(word), word.GetLength());
-//   puts(message);  // prints "table: 5 characters"
+//   puts(message);  // Output: table: 5 characters
 //
 // Rules that hold for every operation:
 // - Positions and lengths are `int` and count characters from 0; truth values are 1 or 0.

@@ -9,8 +9,10 @@
  *   char line[64];
  *   char* end = strcpy_rn(line, "one\r\ntwo ");
  *   strcpydel(end, "1,000", ',');
- *   puts(line);  // prints "one", "two 1000"
- *   puts(SetExt(line, "c:\\work\\list.txt", ".bak"));  // prints "c:\work\list.bak"
+ *   puts(line);
+ *   // Output: one
+ *   // Output: two 1000
+ *   puts(SetExt(line, "c:\\work\\list.txt", ".bak"));  // Output: c:\work\list.bak
  */
 #ifndef KZ_STRUTIL_H
 #define KZ_STRUTIL_H

@@ -6,7 +6,7 @@
 //
 //   ZCTime start(2000, 1, 1, 0, 0, 0, -1);
 //   ZCTimeSpan age = ZCTime(2000, 1, 3, 12, 0, 0, -1) - start;
-//   puts(age.Format("%D days %H:%M:%S"));  // prints "2 days 12:00:00"
+//   puts(age.Format("%D days %H:%M:%S"));  // Output: 2 days 12:00:00
 //
 // Range: a moment before 1901-12-13 or after 2038-01-19 (UTC) does not fit the count. Conversions
 // from a calendar or file time give the nearest end of the range then; adding and subtracting

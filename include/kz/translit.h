@@ -8,9 +8,9 @@
  *
  *   char name[32], latin[32];
  *   strtransliterateenrusmart("Washington", name, 1);
- *   puts(name);  // prints "Уошингтон"
+ *   puts(name);  // Output: Уошингтон
  *   xliteratr(latin, name, 0);
- *   puts(latin);  // prints "Uoshington"
+ *   puts(latin);  // Output: Uoshington
  */
 #ifndef KZ_TRANSLIT_H
 #define KZ_TRANSLIT_H

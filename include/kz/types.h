@@ -4,7 +4,7 @@
  * structures, C++ callers may include the header of the class itself.
  *
  *   CDic* dictionary = DicOpen("pets.dic", DIC_MODE_PLAIN);
- *   puts(DicGetPath(dictionary));  // prints "pets.dic"
+ *   puts(DicGetPath(dictionary));  // Output: pets.dic
  *   DicClose(dictionary);
  */
 #ifndef KZ_TYPES_H
