@@ -1,5 +1,5 @@
 # Installed files: libraries, headers, tool, CMake package (find_package(KZCommon), targets
-# KZ::kzcommon and KZ::kzlexicon), pkg-config file and pages. Every file belongs to a component, of which
+# KZ::kzcommon and KZ::kzlexicon), pkg-config files and pages. Every file belongs to a component, of which
 # packages.cmake makes a Debian package.
 include(CMakePackageConfigHelpers)
 
@@ -9,12 +9,10 @@ install(TARGETS kzcommon EXPORT KZCommonTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
           COMPONENT libkzcommon${PROJECT_VERSION_MAJOR} NAMELINK_COMPONENT libkzcommon-dev)
 install(DIRECTORY include/kz DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${dev})
-if(TARGET kzlexicon)
-  install(TARGETS kzlexicon EXPORT KZCommonTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-            COMPONENT libkzlexicon${PROJECT_VERSION_MAJOR} NAMELINK_COMPONENT libkzcommon-dev)
-  install(DIRECTORY include/kzlexicon DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${dev})
-endif()
+install(TARGETS kzlexicon EXPORT KZCommonTargets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+          COMPONENT libkzlexicon${PROJECT_VERSION_MAJOR} NAMELINK_COMPONENT libkzcommon-dev)
+install(DIRECTORY include/kzlexicon DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${dev})
 if(TARGET kzdic)
   install(TARGETS kzdic RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT kzdic)
 endif()
@@ -28,11 +26,12 @@ install(FILES ${PROJECT_BINARY_DIR}/KZCommonConfig.cmake
               ${PROJECT_BINARY_DIR}/KZCommonConfigVersion.cmake
         DESTINATION ${package_dir} ${dev})
 
-# The file finds the tree from where it stands, so that an installed tree may be moved.
+# The files find the tree from where they are, so that an installed tree may be moved.
 file(RELATIVE_PATH pkgconfig_to_prefix
      /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 configure_file(cmake/kzcommon.pc.in kzcommon.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/kzcommon.pc
+configure_file(cmake/kzlexicon.pc.in kzlexicon.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/kzcommon.pc ${PROJECT_BINARY_DIR}/kzlexicon.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig ${dev})
 
 # The pages keep their places in the tree, and with them the links from one to another.
