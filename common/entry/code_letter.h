@@ -32,12 +32,12 @@ namespace detail {
 consteval std::array<CharSet, 256> make_char_sets() {
   std::array<CharSet, 256> sets{};
   for (std::size_t c = 0; c < sets.size(); ++c) {
-    const CharClass classes = char_class::table[c];
-    if (classes & char_class::ascii_upper) sets[c] |= kLatinCapital;
-    if (classes & char_class::ascii_lower) sets[c] |= kLatinSmall;
-    if (classes & char_class::ru_ansi_upper) sets[c] |= kRussianCapital;
-    if (classes & char_class::ru_ansi_lower) sets[c] |= kRussianSmall;
-    if (classes & char_class::digit) sets[c] |= kDigit;
+    const CharClass classes = char_class::kTable[c];
+    if (classes & char_class::kAsciiUpper) sets[c] |= kLatinCapital;
+    if (classes & char_class::kAsciiLower) sets[c] |= kLatinSmall;
+    if (classes & char_class::kRuAnsiUpper) sets[c] |= kRussianCapital;
+    if (classes & char_class::kRuAnsiLower) sets[c] |= kRussianSmall;
+    if (classes & char_class::kDigit) sets[c] |= kDigit;
   }
   sets['&'] = kAmpersand;
   sets[')'] = kClosingParenthesis;

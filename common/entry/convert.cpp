@@ -97,17 +97,17 @@ char* convert_entry(const kz::CodePages& pages, const char* source, char* destin
 }  // namespace
 
 char* DicEntryAnsiToOem(const char* source, char* destination, const char* language) {
-  return convert_entry(kz::to_oem, source, destination, language);
+  return convert_entry(kz::kToOem, source, destination, language);
 }
 
 char* DicEntryOemToAnsi(const char* source, char* destination, const char* language) {
-  return convert_entry(kz::to_ansi, source, destination, language);
+  return convert_entry(kz::kToAnsi, source, destination, language);
 }
 
 char* strdicansitooem(const char* source, char* destination, const char* language) {
-  return convert_text(kz::to_oem, source, destination, language);
+  return convert_text(kz::kToOem, source, destination, language);
 }
 
 char* strdicoemtoansi(const char* source, char* destination, const char* language) {
-  return convert_text(kz::to_ansi, source, destination, language);
+  return convert_text(kz::kToAnsi, source, destination, language);
 }

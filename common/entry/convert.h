@@ -19,10 +19,10 @@ struct CodePages {
   ByteMap western_to_ansi;   // the source as a letter of Windows-1252
 };
 
-inline constexpr CodePages to_oem{ru_ansi_to_oem, ansi_to_oem, char_class::ru_ansi_alpha,
+inline constexpr CodePages kToOem{kRuAnsiToOem, kAnsiToOem, char_class::kRuAnsiAlpha,
                                   identity_map()};
-inline constexpr CodePages to_ansi{ru_oem_to_ansi, oem_to_ansi, char_class::ru_oem_alpha,
-                                   oem_to_ansi.codes};
+inline constexpr CodePages kToAnsi{kRuOemToAnsi, kOemToAnsi, char_class::kRuOemAlpha,
+                                   kOemToAnsi.codes};
 
 // Converts a full entry in place, section by section.
 void convert_entry(const CodePages& pages, std::span<char> entry, const char* language);

@@ -19,7 +19,7 @@ struct MixedLanguage {
     const std::string_view whole(text);
     const std::string_view own = whole.size() > 2 ? whole.substr(2) : whole;
     language = language_of(own.data());
-    is_western_default = own.size() > 2 && !own.starts_with(code::ru);
+    is_western_default = own.size() > 2 && !own.starts_with(code::kRu);
   }
 };
 
@@ -49,7 +49,7 @@ class MixedConverter {
   char decide(char c, char next) {
     bool is_western = latin_ > russian_;
     if (latin_ == russian_) {
-      const bool is_before_latin = is_in(next, char_class::ascii_alpha);
+      const bool is_before_latin = is_in(next, char_class::kAsciiAlpha);
       const bool is_before_russian = is_in_doubt(next) || is_in(next, pages_.russian_letter);
       is_western = is_before_latin || (is_western_default_ && !is_before_russian);
       // By default the word counts as Russian from here on.
@@ -61,11 +61,11 @@ class MixedConverter {
   }
 
   char plain(char c) {
-    if (is_in(c, char_class::ascii_alpha)) {
+    if (is_in(c, char_class::kAsciiAlpha)) {
       ++latin_;
     } else if (is_in(c, pages_.russian_letter)) {
       ++russian_;
-    } else if (!is_in(c, char_class::digit) && !is_inside_word(c)) {
+    } else if (!is_in(c, char_class::kDigit) && !is_inside_word(c)) {
       latin_ = russian_ = 0;
     }
     return static_cast<char>(pages_.russian[c]);

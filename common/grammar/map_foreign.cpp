@@ -202,7 +202,7 @@ constexpr MapRules kRules({
 // Appends the rest of a translation to a text.
 void append_rest(char* text, std::string_view rest) {
   char* end = text + std::strlen(text);
-  if (!rest.empty() && !is_in(rest.front(), char_class::digit)) *end++ = '1';
+  if (!rest.empty() && !is_in(rest.front(), char_class::kDigit)) *end++ = '1';
   *std::ranges::copy(rest, end).out = '\0';
 }
 

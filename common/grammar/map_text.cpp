@@ -113,7 +113,7 @@ int xv_syn(int code) {
 const char* get_equ(const char* text, const char* key) {
   if (text == nullptr || key == nullptr || *text == '\0') return nullptr;
   if (const char* const found = std::strstr(text, key)) return found + 1;
-  constexpr kz::CharClass kCapital = kz::char_class::ascii_upper | kz::char_class::ru_ansi_upper;
+  constexpr kz::CharClass kCapital = kz::char_class::kAsciiUpper | kz::char_class::kRuAnsiUpper;
   for (; *text != '\0'; ++text) {
     if (*text == '{' || *text == '[') {
       text = std::strchr(text, *text == '{' ? '}' : ']');

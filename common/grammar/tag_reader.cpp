@@ -137,7 +137,7 @@ struct TagReader {
     const bool zero_first = at[1] == '0';
     const std::uint32_t number = read_number(at) & 0xFFFF;
     if (number != 0 || zero_first) field::kParadigmNumber.set(gram, number);
-    if (is_in(at[1], char_class::ascii_alpha | char_class::ru_ansi_alpha)) {
+    if (is_in(at[1], char_class::kAsciiAlpha | char_class::kRuAnsiAlpha)) {
       field::kParadigmLetter.set(gram, static_cast<unsigned char>(*++at));
     }
     if (at[1] == ':' && is_digit(at[2])) field::kParadigmBase.set(gram, read_number(++at));
@@ -147,15 +147,15 @@ struct TagReader {
   // "&" with a Latin letter and a digit, or with any of a small Cyrillic letter, a capital and a
   // number, in this order.
   const char* read_extra(const char* at) const {
-    if (is_in(at[1], char_class::ascii_alpha)) {
+    if (is_in(at[1], char_class::kAsciiAlpha)) {
       latin_area[0] = *++at;
       if (is_digit(at[1])) latin_area[1] = *++at;
       return at;
     }
-    if (is_in(at[1], char_class::ru_ansi_lower)) {
+    if (is_in(at[1], char_class::kRuAnsiLower)) {
       field::kSmallLetter.set(gram, static_cast<unsigned char>(*++at));
     }
-    if (is_in(at[1], char_class::ru_ansi_upper)) {
+    if (is_in(at[1], char_class::kRuAnsiUpper)) {
       field::kObliqueMarks.add(gram, case_of(*++at) >> 1);
     }
     if (is_digit(at[1])) field::kSmallNumber.set(gram, read_number(at));

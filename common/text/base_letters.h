@@ -22,14 +22,14 @@ struct Family {
   std::string_view members;
 };
 
-inline constexpr Family russian[] = {{U'е'_1251, U"её"_1251}};
-inline constexpr Family german[] = {
+inline constexpr Family kRussian[] = {{U'е'_1251, U"её"_1251}};
+inline constexpr Family kGerman[] = {
     {'s', U"sSß"_1252},
     {'a', U"aAäÄ"_1252},
     {'o', U"oOöÖ"_1252},
     {'u', U"uUüÜ"_1252},
 };
-inline constexpr Family french[] = {
+inline constexpr Family kFrench[] = {
     {'a', U"aAàÀâÂ"_1252}, {'c', U"cCçÇ"_1252}, {'e', U"eEèÈéÉêÊëË"_1252},
     {'i', U"iIîÎïÏ"_1252}, {'o', U"oOôÔ"_1252}, {'u', U"uUùÙûÛ"_1252},
 };
@@ -43,15 +43,15 @@ consteval ByteMap make_map(std::span<const Family> families) {
 }
 
 // By Language.
-inline constexpr std::array<ByteMap, 4> maps{identity_map(), make_map(russian), make_map(german),
-                                             make_map(french)};
+inline constexpr std::array<ByteMap, 4> kMaps{identity_map(), make_map(kRussian), make_map(kGerman),
+                                              make_map(kFrench)};
 
 }  // namespace base_letters
 
 // The base letter of every character in a language: Windows-1251 for Russian, Windows-1252 for the
 // others.
 constexpr const ByteMap& base_letters_of(Language language) {
-  return base_letters::maps[static_cast<std::size_t>(language)];
+  return base_letters::kMaps[static_cast<std::size_t>(language)];
 }
 
 }  // namespace kz

@@ -21,7 +21,7 @@ constexpr ByteMap identity_map() {
 
 // A map that leaves the codes below 64 alone, ready for the vector code.
 struct Translation {
-  static constexpr std::size_t first_row = 4;  // rows of 16 codes; those below map to themselves
+  static constexpr std::size_t kFirstRow = 4;  // rows of 16 codes; those below map to themselves
 
   ByteMap codes;
   // What to change (by exclusive or) in the codes of each row, beyond what the rows before it in
@@ -32,11 +32,11 @@ struct Translation {
 
   consteval explicit Translation(const ByteMap& map) : codes(map) {
     for (std::size_t row = 0; row < row_changes.size(); ++row) {
-      const bool starts_half = row == first_row || row == 8;
+      const bool starts_half = row == kFirstRow || row == 8;
       for (std::size_t i = 0; i < 16; ++i) {
         row_changes[row][i] = change(row * 16 + i);
-        if (row < first_row && row_changes[row][i] != 0) throw "codes below 64 must stay";
-        if (row > first_row && !starts_half) row_changes[row][i] ^= change(row * 16 + i - 16);
+        if (row < kFirstRow && row_changes[row][i] != 0) throw "codes below 64 must stay";
+        if (row > kFirstRow && !starts_half) row_changes[row][i] ^= change(row * 16 + i - 16);
         if (row < 8 && row_changes[row][i] != 0) keeps_ascii = false;
       }
     }

@@ -10,8 +10,8 @@
 namespace kz {
 namespace {
 
-constexpr std::size_t avx2_width = 32;
-constexpr std::size_t avx512_width = 64;
+constexpr std::size_t kAvx2Width = 32;
+constexpr std::size_t kAvx512Width = 64;
 
 // The changes of the rows [first, last) to 32 codes. `index` is each code's distance from the first
 // code of row `first`, negative for codes outside the rows' half. A shuffle looks up 16 codes at
@@ -35,14 +35,14 @@ __attribute__((target("avx2"))) std::size_t translate_avx2(const char* source, c
                                                            std::size_t size,
                                                            const Translation& translation) {
   std::size_t i = 0;
-  for (; i + avx2_width <= size; i += avx2_width) {
+  for (; i + kAvx2Width <= size; i += kAvx2Width) {
     const __m256i codes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(source + i));
     const __m256i from_128 = _mm256_xor_si256(codes, _mm256_set1_epi8(-128));
     __m256i result = _mm256_xor_si256(codes, changes_of_rows(translation, 8, 16, from_128));
     if constexpr (!KeepsAscii) {
       const __m256i from_64 = _mm256_subs_epi8(codes, _mm256_set1_epi8(64));
-      constexpr std::size_t row_of_64 = Translation::first_row;
-      result = _mm256_xor_si256(result, changes_of_rows(translation, row_of_64, 8, from_64));
+      constexpr std::size_t kRowOf64 = Translation::kFirstRow;
+      result = _mm256_xor_si256(result, changes_of_rows(translation, kRowOf64, 8, from_64));
     }
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(destination + i), result);
   }
@@ -56,9 +56,9 @@ __attribute__((target("avx512bw,avx512vbmi"))) std::size_t translate_avx512(
   const __m512i row_64 = _mm512_loadu_si512(codes + 64);
   const __m512i row_128 = _mm512_loadu_si512(codes + 128);
   const __m512i row_192 = _mm512_loadu_si512(codes + 192);
-  for (std::size_t i = 0; i < size; i += avx512_width) {
+  for (std::size_t i = 0; i < size; i += kAvx512Width) {
     const std::size_t rest = size - i;
-    const std::uint64_t valid = rest >= avx512_width ? ~std::uint64_t{0}  //
+    const std::uint64_t valid = rest >= kAvx512Width ? ~std::uint64_t{0}  //
                                                      : (std::uint64_t{1} << rest) - 1;
     const __m512i text = _mm512_maskz_loadu_epi8(valid, source + i);
     const __m512i below_128 = _mm512_permutex2var_epi8(row_0, text, row_64);

@@ -52,14 +52,14 @@ consteval CaseMaps windows_1252() {
 
 }  // namespace case_maps
 
-inline constexpr CaseMaps ascii_case = case_maps::with_latin().maps();
-inline constexpr CaseMaps ru_ansi_case =
-    case_maps::with_pairs(russian_letters, &RussianCodes::ansi, case_maps::with_latin());
-inline constexpr CaseMaps ru_oem_case =
-    case_maps::with_pairs(russian_letters, &RussianCodes::oem, case_maps::Draft{});
-inline constexpr CaseMaps ansi_case = case_maps::windows_1252();
-inline constexpr CaseMaps oem_case =
-    case_maps::with_pairs(western_letters, &WesternCodes::oem, case_maps::with_latin());
+inline constexpr CaseMaps kAsciiCase = case_maps::with_latin().maps();
+inline constexpr CaseMaps kRuAnsiCase =
+    case_maps::with_pairs(kRussianLetters, &RussianCodes::ansi, case_maps::with_latin());
+inline constexpr CaseMaps kRuOemCase =
+    case_maps::with_pairs(kRussianLetters, &RussianCodes::oem, case_maps::Draft{});
+inline constexpr CaseMaps kAnsiCase = case_maps::windows_1252();
+inline constexpr CaseMaps kOemCase =
+    case_maps::with_pairs(kWesternLetters, &WesternCodes::oem, case_maps::with_latin());
 
 }  // namespace kz
 

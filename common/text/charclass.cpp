@@ -11,7 +11,7 @@ namespace {
 
 using namespace char_class;
 
-constexpr int internal_code_page = 1;
+constexpr int kInternalCodePage = 1;
 
 char* change_case(char* text, const Translation& translation) {
   if (text != nullptr) translate_text(text, text, translation);
@@ -23,15 +23,16 @@ struct Selection {
   CharClass ru_oem, oem, ru_ansi, ansi, ascii;
 };
 
-constexpr Selection alpha{ru_oem_alpha, oem_alpha, ru_ansi_alpha, ansi_alpha, ascii_alpha};
-constexpr Selection upper{ru_oem_upper, oem_upper, ru_ansi_upper, ansi_upper, ascii_upper};
-constexpr Selection lower{ru_oem_lower, oem_lower, ru_ansi_lower, ansi_lower, ascii_lower};
+constexpr Selection kAlpha{kRuOemAlpha, kOemAlpha, kRuAnsiAlpha, kAnsiAlpha, kAsciiAlpha};
+constexpr Selection kUpper{kRuOemUpper, kOemUpper, kRuAnsiUpper, kAnsiUpper, kAsciiUpper};
+constexpr Selection kLower{kRuOemLower, kOemLower, kRuAnsiLower, kAnsiLower, kAsciiLower};
 
 bool is_selected(int character, const char* language, int code_page, const Selection& classes) {
   switch (code_page) {
-    case 0: return is_in(character, is_language(language, code::ru) ? classes.ru_oem : classes.oem);
+    case 0:
+      return is_in(character, is_language(language, code::kRu) ? classes.ru_oem : classes.oem);
     case 1:
-      return is_in(character, is_language(language, code::ru) ? classes.ru_ansi : classes.ansi);
+      return is_in(character, is_language(language, code::kRu) ? classes.ru_ansi : classes.ansi);
     default: return is_in(character, classes.ascii);
   }
 }
@@ -46,90 +47,88 @@ bool is_mark(int character, int code_page, CharClass anywhere, CharClass in_ansi
 using namespace kz::char_class;
 using kz::is_in;
 
-int16_t _isupper(int character) { return is_in(character, ascii_upper); }
-int16_t _islower(int character) { return is_in(character, ascii_lower); }
-int16_t _isalpha(int character) { return is_in(character, ascii_alpha); }
-int16_t _isdigit(int character) { return is_in(character, digit); }
-int16_t _isalnum(int character) { return is_in(character, ascii_alpha | digit); }
-int16_t _isxdigit(int character) { return is_in(character, digit | hex_letter); }
-int16_t _isspace(int character) { return is_in(character, space); }
-int16_t _iscntrl(int character) { return is_in(character, control); }
-int __toupper(int character) { return kz::ascii_case.upper[character]; }
-int __tolower(int character) { return kz::ascii_case.lower[character]; }
-char* __strupr(char* text) { return kz::change_case(text, kz::ascii_case.upper); }
-char* __strlwr(char* text) { return kz::change_case(text, kz::ascii_case.lower); }
+int16_t _isupper(int character) { return is_in(character, kAsciiUpper); }
+int16_t _islower(int character) { return is_in(character, kAsciiLower); }
+int16_t _isalpha(int character) { return is_in(character, kAsciiAlpha); }
+int16_t _isdigit(int character) { return is_in(character, kDigit); }
+int16_t _isalnum(int character) { return is_in(character, kAsciiAlpha | kDigit); }
+int16_t _isxdigit(int character) { return is_in(character, kDigit | kHexLetter); }
+int16_t _isspace(int character) { return is_in(character, kSpace); }
+int16_t _iscntrl(int character) { return is_in(character, kControl); }
+int __toupper(int character) { return kz::kAsciiCase.upper[character]; }
+int __tolower(int character) { return kz::kAsciiCase.lower[character]; }
+char* __strupr(char* text) { return kz::change_case(text, kz::kAsciiCase.upper); }
+char* __strlwr(char* text) { return kz::change_case(text, kz::kAsciiCase.lower); }
 
-int16_t isruansiupper(int character) { return is_in(character, ru_ansi_upper); }
-int16_t isruansilower(int character) { return is_in(character, ru_ansi_lower); }
-int16_t isruansialpha(int character) { return is_in(character, ru_ansi_alpha); }
-int16_t isruansialnum(int character) { return is_in(character, ru_ansi_alpha | digit); }
-int toruansiupper(int character) { return kz::ru_ansi_case.upper[character]; }
-int toruansilower(int character) { return kz::ru_ansi_case.lower[character]; }
-char* strruansiupr(char* text) { return kz::change_case(text, kz::ru_ansi_case.upper); }
-char* strruansilwr(char* text) { return kz::change_case(text, kz::ru_ansi_case.lower); }
+int16_t isruansiupper(int character) { return is_in(character, kRuAnsiUpper); }
+int16_t isruansilower(int character) { return is_in(character, kRuAnsiLower); }
+int16_t isruansialpha(int character) { return is_in(character, kRuAnsiAlpha); }
+int16_t isruansialnum(int character) { return is_in(character, kRuAnsiAlpha | kDigit); }
+int toruansiupper(int character) { return kz::kRuAnsiCase.upper[character]; }
+int toruansilower(int character) { return kz::kRuAnsiCase.lower[character]; }
+char* strruansiupr(char* text) { return kz::change_case(text, kz::kRuAnsiCase.upper); }
+char* strruansilwr(char* text) { return kz::change_case(text, kz::kRuAnsiCase.lower); }
 
-int16_t isruoemupper(int character) { return is_in(character, ru_oem_upper); }
-int16_t isruoemlower(int character) { return is_in(character, ru_oem_lower); }
-int16_t isruoemalpha(int character) { return is_in(character, ru_oem_alpha); }
-int16_t isruoemalnum(int character) { return is_in(character, ru_oem_alpha | digit); }
-int toruoemupper(int character) { return kz::ru_oem_case.upper[character]; }
-int toruoemlower(int character) { return kz::ru_oem_case.lower[character]; }
-char* strruoemupr(char* text) { return kz::change_case(text, kz::ru_oem_case.upper); }
-char* strruoemlwr(char* text) { return kz::change_case(text, kz::ru_oem_case.lower); }
+int16_t isruoemupper(int character) { return is_in(character, kRuOemUpper); }
+int16_t isruoemlower(int character) { return is_in(character, kRuOemLower); }
+int16_t isruoemalpha(int character) { return is_in(character, kRuOemAlpha); }
+int16_t isruoemalnum(int character) { return is_in(character, kRuOemAlpha | kDigit); }
+int toruoemupper(int character) { return kz::kRuOemCase.upper[character]; }
+int toruoemlower(int character) { return kz::kRuOemCase.lower[character]; }
+char* strruoemupr(char* text) { return kz::change_case(text, kz::kRuOemCase.upper); }
+char* strruoemlwr(char* text) { return kz::change_case(text, kz::kRuOemCase.lower); }
 
-int16_t isansiupper(int character) { return is_in(character, ansi_upper); }
-int16_t isansilower(int character) { return is_in(character, ansi_lower); }
-int16_t isansialpha(int character) { return is_in(character, ansi_alpha); }
-int16_t isansialnum(int character) { return is_in(character, ansi_alpha | digit); }
-int toansiupper(int character) { return kz::ansi_case.upper[character]; }
-int toansilower(int character) { return kz::ansi_case.lower[character]; }
-char* stransiupr(char* text) { return kz::change_case(text, kz::ansi_case.upper); }
-char* stransilwr(char* text) { return kz::change_case(text, kz::ansi_case.lower); }
+int16_t isansiupper(int character) { return is_in(character, kAnsiUpper); }
+int16_t isansilower(int character) { return is_in(character, kAnsiLower); }
+int16_t isansialpha(int character) { return is_in(character, kAnsiAlpha); }
+int16_t isansialnum(int character) { return is_in(character, kAnsiAlpha | kDigit); }
+int toansiupper(int character) { return kz::kAnsiCase.upper[character]; }
+int toansilower(int character) { return kz::kAnsiCase.lower[character]; }
+char* stransiupr(char* text) { return kz::change_case(text, kz::kAnsiCase.upper); }
+char* stransilwr(char* text) { return kz::change_case(text, kz::kAnsiCase.lower); }
 
-int16_t isoemupper(int character) { return is_in(character, oem_upper); }
-int16_t isoemlower(int character) { return is_in(character, oem_lower); }
-int16_t isoemalpha(int character) { return is_in(character, oem_alpha); }
-int16_t isoemalnum(int character) { return is_in(character, oem_alpha | digit); }
-int tooemupper(int character) { return kz::oem_case.upper[character]; }
-int tooemlower(int character) { return kz::oem_case.lower[character]; }
-char* stroemupr(char* text) { return kz::change_case(text, kz::oem_case.upper); }
-char* stroemlwr(char* text) { return kz::change_case(text, kz::oem_case.lower); }
+int16_t isoemupper(int character) { return is_in(character, kOemUpper); }
+int16_t isoemlower(int character) { return is_in(character, kOemLower); }
+int16_t isoemalpha(int character) { return is_in(character, kOemAlpha); }
+int16_t isoemalnum(int character) { return is_in(character, kOemAlpha | kDigit); }
+int tooemupper(int character) { return kz::kOemCase.upper[character]; }
+int tooemlower(int character) { return kz::kOemCase.lower[character]; }
+char* stroemupr(char* text) { return kz::change_case(text, kz::kOemCase.upper); }
+char* stroemlwr(char* text) { return kz::change_case(text, kz::kOemCase.lower); }
 
 int16_t ischalpha(int character, const char* language, int code_page) {
-  return kz::is_selected(character, language, code_page, kz::alpha);
+  return kz::is_selected(character, language, code_page, kz::kAlpha);
 }
 int16_t ischupper(int character, const char* language, int code_page) {
-  return kz::is_selected(character, language, code_page, kz::upper);
+  return kz::is_selected(character, language, code_page, kz::kUpper);
 }
 int16_t ischlower(int character, const char* language, int code_page) {
-  return kz::is_selected(character, language, code_page, kz::lower);
+  return kz::is_selected(character, language, code_page, kz::kLower);
 }
 int16_t IsUCharAlpha(int character, const char* language, int code_page) {
-  return kz::is_selected(character, language, code_page, kz::alpha);
+  return kz::is_selected(character, language, code_page, kz::kAlpha);
 }
 
 int16_t ischpunct(int character, int code_page) {
-  return !is_in(character, ascii_alpha | digit | (code_page == 1 ? ru_ansi_alpha : ru_oem_alpha));
+  return !is_in(character, kAsciiAlpha | kDigit | (code_page == 1 ? kRuAnsiAlpha : kRuOemAlpha));
 }
 int16_t iscomma(int character, int code_page) {
-  return kz::is_mark(character, code_page, comma, ansi_comma);
+  return kz::is_mark(character, code_page, kComma, kAnsiComma);
 }
 int16_t isdash(int character, int code_page) {
-  return kz::is_mark(character, code_page, dash, ansi_dash);
+  return kz::is_mark(character, code_page, kDash, kAnsiDash);
 }
 int16_t isapostrophe(int character, int code_page) {
-  return kz::is_mark(character, code_page, apostrophe, ansi_apostrophe);
+  return kz::is_mark(character, code_page, kApostrophe, kAnsiApostrophe);
 }
 int16_t isqmark(int character, int code_page) {
-  return kz::is_mark(character, code_page, quote, ansi_quote);
+  return kz::is_mark(character, code_page, kQuote, kAnsiQuote);
 }
 
-int16_t IsSourcePunct(int character) { return ischpunct(character, kz::internal_code_page); }
-int16_t IsSourceComma(int character) { return iscomma(character, kz::internal_code_page); }
-int16_t IsSourceDash(int character) { return isdash(character, kz::internal_code_page); }
-int16_t IsSourceApostrophe(int character) {
-  return isapostrophe(character, kz::internal_code_page);
-}
-int16_t IsSourceQmark(int character) { return isqmark(character, kz::internal_code_page); }
+int16_t IsSourcePunct(int character) { return ischpunct(character, kz::kInternalCodePage); }
+int16_t IsSourceComma(int character) { return iscomma(character, kz::kInternalCodePage); }
+int16_t IsSourceDash(int character) { return isdash(character, kz::kInternalCodePage); }
+int16_t IsSourceApostrophe(int character) { return isapostrophe(character, kz::kInternalCodePage); }
+int16_t IsSourceQmark(int character) { return isqmark(character, kz::kInternalCodePage); }
 
-int16_t kz_codr_get_internal_code() { return kz::internal_code_page; }
+int16_t kz_codr_get_internal_code() { return kz::kInternalCodePage; }

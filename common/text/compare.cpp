@@ -17,7 +17,7 @@
 namespace kz {
 namespace {
 
-constexpr ByteMap exact = identity_map();
+constexpr ByteMap kExact = identity_map();
 
 // What a comparison that ignores accents compares, by Language.
 using FoldByLanguage = std::array<ByteMap, 4>;
@@ -27,18 +27,17 @@ consteval FoldByLanguage fold_accents(const ByteMap& to_ansi, const ByteMap& fol
   FoldByLanguage folds{};
   for (std::size_t language = 0; language < folds.size(); ++language) {
     for (std::size_t c = 0; c < 256; ++c) {
-      folds[language][c] = fold_case[base_letters::maps[language][to_ansi[c]]];
+      folds[language][c] = fold_case[base_letters::kMaps[language][to_ansi[c]]];
     }
   }
   return folds;
 }
 
-constexpr FoldByLanguage ansi_accents = fold_accents(exact, exact);
-constexpr FoldByLanguage ansi_accents_and_case = fold_accents(exact, ansi_case.upper.codes);
-constexpr FoldByLanguage oem_accents = fold_accents(oem_to_ansi.codes, exact);
+constexpr FoldByLanguage kAnsiAccents = fold_accents(kExact, kExact);
+constexpr FoldByLanguage kAnsiAccentsAndCase = fold_accents(kExact, kAnsiCase.upper.codes);
+constexpr FoldByLanguage kOemAccents = fold_accents(kOemToAnsi.codes, kExact);
 // The base letters are codes of Windows-1252 here, and yet it is the case of CP850 that is taken.
-constexpr FoldByLanguage oem_accents_and_case =
-    fold_accents(oem_to_ansi.codes, oem_case.upper.codes);
+constexpr FoldByLanguage kOemAccentsAndCase = fold_accents(kOemToAnsi.codes, kOemCase.upper.codes);
 
 const ByteMap& for_language(const FoldByLanguage& folds, const char* language) {
   return folds[static_cast<std::size_t>(language_of(language))];
@@ -64,7 +63,7 @@ int compare_letters(const char* first, const char* second, CharClass letters, co
 }
 
 int compare_exactly(const char* first, const char* second) {
-  return compare_letters(first, second, 0, exact);
+  return compare_letters(first, second, 0, kExact);
 }
 
 // Folds every character of the first n.
@@ -87,66 +86,66 @@ consteval ByteMap positions(std::string_view letters) {
 }
 
 // The zero is found where the text of the vowels ends.
-constexpr ByteMap vowel_positions = positions({"aeiouyAEIOUY\0", 13});
-constexpr ByteMap russian_vowel_positions = positions(U"аеиоуыАЕИОУЫ"_1251);
+constexpr ByteMap kVowelPositions = positions({"aeiouyAEIOUY\0", 13});
+constexpr ByteMap kRussianVowelPositions = positions(U"аеиоуыАЕИОУЫ"_1251);
 
 }  // namespace
 }  // namespace kz
 
 int stransiicmp(const char* a, const char* b) {
-  return kz::compare_letters(a, b, kz::char_class::ansi_alpha, kz::ansi_case.upper.codes);
+  return kz::compare_letters(a, b, kz::char_class::kAnsiAlpha, kz::kAnsiCase.upper.codes);
 }
 int strruansiicmp(const char* a, const char* b) {
-  return kz::compare_letters(a, b, kz::char_class::ru_ansi_alpha | kz::char_class::ascii_alpha,
-                             kz::ru_ansi_case.upper.codes);
+  return kz::compare_letters(a, b, kz::char_class::kRuAnsiAlpha | kz::char_class::kAsciiAlpha,
+                             kz::kRuAnsiCase.upper.codes);
 }
 int stroemicmp(const char* a, const char* b) {
-  return kz::compare_letters(a, b, kz::char_class::oem_alpha, kz::oem_case.upper.codes);
+  return kz::compare_letters(a, b, kz::char_class::kOemAlpha, kz::kOemCase.upper.codes);
 }
 int strruoemicmp(const char* a, const char* b) {
-  return kz::compare_letters(a, b, kz::char_class::ru_oem_alpha, kz::ru_oem_case.upper.codes);
+  return kz::compare_letters(a, b, kz::char_class::kRuOemAlpha, kz::kRuOemCase.upper.codes);
 }
 int strruansinicmp(const char* a, const char* b, int n) {
-  return kz::compare_first(a, b, n, kz::ru_ansi_case.upper.codes);
+  return kz::compare_first(a, b, n, kz::kRuAnsiCase.upper.codes);
 }
 int stroemnicmp(const char* a, const char* b, int n) {
-  return kz::compare_first(a, b, n, kz::oem_case.upper.codes);
+  return kz::compare_first(a, b, n, kz::kOemCase.upper.codes);
 }
 int strruoemnicmp(const char* a, const char* b, int n) {
-  return kz::compare_first(a, b, n, kz::ru_oem_case.upper.codes);
+  return kz::compare_first(a, b, n, kz::kRuOemCase.upper.codes);
 }
 
 int stransiacmp(const char* a, const char* b, const char* language) {
   if (kz::is_russian_source(language)) return kz::compare_exactly(a, b);
-  return kz::compare_letters(a, b, kz::char_class::ansi_alpha,
-                             kz::for_language(kz::ansi_accents, language));
+  return kz::compare_letters(a, b, kz::char_class::kAnsiAlpha,
+                             kz::for_language(kz::kAnsiAccents, language));
 }
 int stroemacmp(const char* a, const char* b, const char* language) {
   if (kz::is_russian_source(language)) return kz::compare_exactly(a, b);
-  return kz::compare_letters(a, b, kz::char_class::oem_alpha,
-                             kz::for_language(kz::oem_accents, language));
+  return kz::compare_letters(a, b, kz::char_class::kOemAlpha,
+                             kz::for_language(kz::kOemAccents, language));
 }
 int stransiaicmp(const char* a, const char* b, const char* language) {
   if (kz::is_russian_source(language)) return strruansiicmp(a, b);
-  return kz::compare_letters(a, b, kz::char_class::ansi_alpha,
-                             kz::for_language(kz::ansi_accents_and_case, language));
+  return kz::compare_letters(a, b, kz::char_class::kAnsiAlpha,
+                             kz::for_language(kz::kAnsiAccentsAndCase, language));
 }
 int stroemaicmp(const char* a, const char* b, const char* language) {
   if (kz::is_russian_source(language)) return strruoemicmp(a, b);
-  return kz::compare_letters(a, b, kz::char_class::oem_alpha,
-                             kz::for_language(kz::oem_accents_and_case, language));
+  return kz::compare_letters(a, b, kz::char_class::kOemAlpha,
+                             kz::for_language(kz::kOemAccentsAndCase, language));
 }
 int stransiancmp(const char* a, const char* b, int n, const char* language) {
-  if (kz::is_russian_source(language)) return kz::compare_first(a, b, n, kz::exact);
-  return kz::compare_first(a, b, n, kz::for_language(kz::ansi_accents, language));
+  if (kz::is_russian_source(language)) return kz::compare_first(a, b, n, kz::kExact);
+  return kz::compare_first(a, b, n, kz::for_language(kz::kAnsiAccents, language));
 }
 int stroemancmp(const char* a, const char* b, int n, const char* language) {
-  if (kz::is_russian_source(language)) return kz::compare_first(a, b, n, kz::exact);
-  return kz::compare_first(a, b, n, kz::for_language(kz::oem_accents, language));
+  if (kz::is_russian_source(language)) return kz::compare_first(a, b, n, kz::kExact);
+  return kz::compare_first(a, b, n, kz::for_language(kz::kOemAccents, language));
 }
 int stroemanicmp(const char* a, const char* b, int n, const char* language) {
   if (kz::is_russian_source(language)) return strruoemnicmp(a, b, n);
-  return kz::compare_first(a, b, n, kz::for_language(kz::oem_accents_and_case, language));
+  return kz::compare_first(a, b, n, kz::for_language(kz::kOemAccentsAndCase, language));
 }
 
 char* _strchr(const char* text, int character) {
@@ -157,8 +156,8 @@ char* _strrchr(const char* text, int character) {
 }
 
 int16_t isvowel(int character) {
-  return kz::vowel_positions[static_cast<unsigned char>(character)];
+  return kz::kVowelPositions[static_cast<unsigned char>(character)];
 }
 int16_t isrvowel(int character) {
-  return kz::russian_vowel_positions[static_cast<unsigned char>(character)] != 0;
+  return kz::kRussianVowelPositions[static_cast<unsigned char>(character)] != 0;
 }

@@ -21,7 +21,7 @@ consteval ByteMap between(const std::array<LetterPair<Codes>, N>& pairs, unsigne
 
 consteval ByteMap punctuation_to_ascii() {
   ByteMap map = identity_map();
-  for (const Punctuation& p : typographic_punctuation) {
+  for (const Punctuation& p : kTypographicPunctuation) {
     map[p.ansi] = static_cast<unsigned char>(p.ascii);
   }
   return map;
@@ -36,41 +36,41 @@ consteval ByteMap box_drawing_to_ascii() {
 using Ru = RussianCodes;
 
 consteval Translation from_ansi(unsigned char Ru::*to) {
-  return Translation(between(russian_letters, &Ru::ansi, to, punctuation_to_ascii()));
+  return Translation(between(kRussianLetters, &Ru::ansi, to, punctuation_to_ascii()));
 }
 consteval Translation to_ansi(unsigned char Ru::*from) {
-  return Translation(between(russian_letters, from, &Ru::ansi, box_drawing_to_ascii()));
+  return Translation(between(kRussianLetters, from, &Ru::ansi, box_drawing_to_ascii()));
 }
 consteval Translation russian(unsigned char Ru::*from, unsigned char Ru::*to) {
-  return Translation(between(russian_letters, from, to, identity_map()));
+  return Translation(between(kRussianLetters, from, to, identity_map()));
 }
 
 }  // namespace conversions
 
-inline constexpr Translation ru_ansi_to_oem = conversions::from_ansi(&RussianCodes::oem);
-inline constexpr Translation ru_oem_to_ansi = conversions::to_ansi(&RussianCodes::oem);
-inline constexpr Translation ansi_to_koi8 = conversions::from_ansi(&RussianCodes::koi8);
-inline constexpr Translation koi8_to_ansi = conversions::to_ansi(&RussianCodes::koi8);
-inline constexpr Translation ansi_to_iso = conversions::from_ansi(&RussianCodes::iso);
-inline constexpr Translation iso_to_ansi = conversions::to_ansi(&RussianCodes::iso);
+inline constexpr Translation kRuAnsiToOem = conversions::from_ansi(&RussianCodes::oem);
+inline constexpr Translation kRuOemToAnsi = conversions::to_ansi(&RussianCodes::oem);
+inline constexpr Translation kAnsiToKoi8 = conversions::from_ansi(&RussianCodes::koi8);
+inline constexpr Translation kKoi8ToAnsi = conversions::to_ansi(&RussianCodes::koi8);
+inline constexpr Translation kAnsiToIso = conversions::from_ansi(&RussianCodes::iso);
+inline constexpr Translation kIsoToAnsi = conversions::to_ansi(&RussianCodes::iso);
 
-inline constexpr Translation oem_to_koi8 =
+inline constexpr Translation kOemToKoi8 =
     conversions::russian(&RussianCodes::oem, &RussianCodes::koi8);
-inline constexpr Translation koi8_to_oem =
+inline constexpr Translation kKoi8ToOem =
     conversions::russian(&RussianCodes::koi8, &RussianCodes::oem);
-inline constexpr Translation oem_to_iso =
+inline constexpr Translation kOemToIso =
     conversions::russian(&RussianCodes::oem, &RussianCodes::iso);
-inline constexpr Translation iso_to_oem =
+inline constexpr Translation kIsoToOem =
     conversions::russian(&RussianCodes::iso, &RussianCodes::oem);
-inline constexpr Translation oem_to_mac =
+inline constexpr Translation kOemToMac =
     conversions::russian(&RussianCodes::oem, &RussianCodes::mac);
-inline constexpr Translation mac_to_oem =
+inline constexpr Translation kMacToOem =
     conversions::russian(&RussianCodes::mac, &RussianCodes::oem);
 
-inline constexpr Translation ansi_to_oem{conversions::between(
-    western_letters, &WesternCodes::ansi, &WesternCodes::oem, conversions::punctuation_to_ascii())};
-inline constexpr Translation oem_to_ansi{conversions::between(
-    western_letters, &WesternCodes::oem, &WesternCodes::ansi, conversions::box_drawing_to_ascii())};
+inline constexpr Translation kAnsiToOem{conversions::between(
+    kWesternLetters, &WesternCodes::ansi, &WesternCodes::oem, conversions::punctuation_to_ascii())};
+inline constexpr Translation kOemToAnsi{conversions::between(
+    kWesternLetters, &WesternCodes::oem, &WesternCodes::ansi, conversions::box_drawing_to_ascii())};
 
 }  // namespace kz
 

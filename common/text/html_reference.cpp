@@ -7,9 +7,9 @@
 namespace kz {
 namespace {
 
-constexpr std::size_t reference_size = 6;  // "&#196;"
+constexpr std::size_t kReferenceSize = 6;  // "&#196;"
 
-bool is_decimal(char c) { return is_in(c, char_class::digit); }
+bool is_decimal(char c) { return is_in(c, char_class::kDigit); }
 
 // True for a reference of three digits. Looks no further than the first character that
 // breaks it, so that it never passes the final zero.
@@ -23,7 +23,7 @@ bool is_reference(const char* text) {
 
 char* stransitohtml(const char* source, char* destination) {
   for (; *source != '\0'; ++source) {
-    if (!kz::is_in(*source, kz::char_class::ru_ansi_alpha)) {
+    if (!kz::is_in(*source, kz::char_class::kRuAnsiAlpha)) {
       *destination++ = *source;
       continue;
     }
@@ -45,7 +45,7 @@ char* strhtmltoansi(const char* source, char* destination) {
     }
     const auto value = [source](std::size_t i) { return source[i] - '0'; };
     *destination++ = static_cast<char>(value(2) * 100 + value(3) * 10 + value(4));
-    source += kz::reference_size;
+    source += kz::kReferenceSize;
   }
   *destination = '\0';
   return destination;

@@ -11,14 +11,14 @@ namespace kz {
 namespace {
 
 // Position by position the characters of the same key.
-constexpr std::string_view russian_keys =
+constexpr std::string_view kRussianKeys =
     U"йцукенгшщзхъфывапролджэячсмитьбюёЙЦУКЕНГШЩЗХЪФЫВАПРОЛДЖЭЯЧСМИТЬБЮЁ"_1251;
-constexpr std::string_view latin_keys =
+constexpr std::string_view kLatinKeys =
     "qwertyuiop[]asdfghjkl;'zxcvbnm,.`QWERTYUIOP{}ASDFGHJKL:\"ZXCVBNM<>~";
 
 // Position by position letters that look the same.
-constexpr std::string_view russian_look_alikes = U"адеикмопрсухАВЕКМНОРСУХ"_1251;
-constexpr std::string_view latin_look_alikes = "ageukmonpcyxABEKMHOPCYX";
+constexpr std::string_view kRussianLookAlikes = U"адеикмопрсухАВЕКМНОРСУХ"_1251;
+constexpr std::string_view kLatinLookAlikes = "ageukmonpcyxABEKMHOPCYX";
 
 consteval ByteMap replacing(std::string_view characters, std::string_view replacements) {
   if (characters.size() != replacements.size()) throw "texts of different length";
@@ -29,10 +29,10 @@ consteval ByteMap replacing(std::string_view characters, std::string_view replac
   return map;
 }
 
-constexpr Translation to_latin_keys{replacing(russian_keys, latin_keys)};
-constexpr ByteMap to_russian_keys = replacing(latin_keys, russian_keys);
-constexpr Translation to_latin_look_alikes{replacing(russian_look_alikes, latin_look_alikes)};
-constexpr Translation to_russian_look_alikes{replacing(latin_look_alikes, russian_look_alikes)};
+constexpr Translation kToLatinKeys{replacing(kRussianKeys, kLatinKeys)};
+constexpr ByteMap kToRussianKeys = replacing(kLatinKeys, kRussianKeys);
+constexpr Translation kToLatinLookAlikes{replacing(kRussianLookAlikes, kLatinLookAlikes)};
+constexpr Translation kToRussianLookAlikes{replacing(kLatinLookAlikes, kRussianLookAlikes)};
 
 char* translate_before(char* text, int stop, const Translation& translation) {
   if (text == nullptr) return nullptr;
@@ -46,21 +46,21 @@ char* translate_before(char* text, int stop, const Translation& translation) {
 }  // namespace kz
 
 char* strlat(char* text, int stop) {
-  return kz::translate_before(text, stop, kz::to_latin_look_alikes);
+  return kz::translate_before(text, stop, kz::kToLatinLookAlikes);
 }
 
 char* strrus(char* text, int stop) {
-  return kz::translate_before(text, stop, kz::to_russian_look_alikes);
+  return kz::translate_before(text, stop, kz::kToRussianLookAlikes);
 }
 
 char* strlatcase(char* text) {
-  return text == nullptr ? nullptr : kz::translate_text(text, text, kz::to_latin_keys);
+  return text == nullptr ? nullptr : kz::translate_text(text, text, kz::kToLatinKeys);
 }
 
 char* strruscase(char* text) {
   if (text == nullptr) return nullptr;
   for (; *text != '\0'; ++text) {
-    *text = static_cast<char>(kz::to_russian_keys[static_cast<unsigned char>(*text)]);
+    *text = static_cast<char>(kz::kToRussianKeys[static_cast<unsigned char>(*text)]);
   }
   return text;
 }

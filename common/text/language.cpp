@@ -8,25 +8,25 @@
 using kz::is_language;
 namespace code = kz::code;
 
-int16_t kz_locl_is_ru_language(const char* text) { return is_language(text, code::ru); }
-int16_t kz_locl_is_en_language(const char* text) { return is_language(text, code::en); }
-int16_t kz_locl_is_fr_language(const char* text) { return is_language(text, code::fr); }
-int16_t kz_locl_is_de_language(const char* text) { return is_language(text, code::de); }
+int16_t kz_locl_is_ru_language(const char* text) { return is_language(text, code::kRu); }
+int16_t kz_locl_is_en_language(const char* text) { return is_language(text, code::kEn); }
+int16_t kz_locl_is_fr_language(const char* text) { return is_language(text, code::kFr); }
+int16_t kz_locl_is_de_language(const char* text) { return is_language(text, code::kDe); }
 
 const char* kz_locl_language(const char* text) {
-  if (is_language(text, code::ru)) return code::ru;
-  if (is_language(text, code::en)) return code::en;
-  if (is_language(text, code::de)) return code::de;
-  if (is_language(text, code::fr)) return code::fr;
+  if (is_language(text, code::kRu)) return code::kRu;
+  if (is_language(text, code::kEn)) return code::kEn;
+  if (is_language(text, code::kDe)) return code::kDe;
+  if (is_language(text, code::kFr)) return code::kFr;
   return nullptr;
 }
 
 const char* LanguageIdToStr(uint16_t identifier) {
   switch (identifier) {
-    case 1049: return code::ru;
-    case 1033: return code::en;
-    case 1036: return code::fr;
-    case 1031: return code::de;
+    case 1049: return code::kRu;
+    case 1033: return code::kEn;
+    case 1036: return code::kFr;
+    case 1031: return code::kDe;
     default: return nullptr;
   }
 }

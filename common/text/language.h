@@ -7,17 +7,17 @@ namespace kz {
 // The constants that the library's functions return; equal codes are the same pointer.
 namespace code {
 
-inline constexpr char ru[] = "RU";
-inline constexpr char en[] = "EN";
-inline constexpr char fr[] = "FR";
-inline constexpr char de[] = "DE";
+inline constexpr char kRu[] = "RU";
+inline constexpr char kEn[] = "EN";
+inline constexpr char kFr[] = "FR";
+inline constexpr char kDe[] = "DE";
 
-inline constexpr char enru[] = "ENRU";
-inline constexpr char ruen[] = "RUEN";
-inline constexpr char frru[] = "FRRU";
-inline constexpr char rufr[] = "RUFR";
-inline constexpr char deru[] = "DERU";
-inline constexpr char rude[] = "RUDE";
+inline constexpr char kEnru[] = "ENRU";
+inline constexpr char kRuen[] = "RUEN";
+inline constexpr char kFrru[] = "FRRU";
+inline constexpr char kRufr[] = "RUFR";
+inline constexpr char kDeru[] = "DERU";
+inline constexpr char kRude[] = "RUDE";
 
 }  // namespace code
 
@@ -38,9 +38,9 @@ constexpr bool is_language(const char* text, const char (&code)[3]) {
 }
 
 constexpr Language language_of(const char* text) {
-  if (is_language(text, code::ru)) return Language::russian;
-  if (is_language(text, code::de)) return Language::german;
-  if (is_language(text, code::fr)) return Language::french;
+  if (is_language(text, code::kRu)) return Language::russian;
+  if (is_language(text, code::kDe)) return Language::german;
+  if (is_language(text, code::kFr)) return Language::french;
   return Language::other;
 }
 

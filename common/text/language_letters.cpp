@@ -11,16 +11,16 @@ namespace {
 
 using CharMap = std::array<unsigned char, 256>;
 
-constexpr std::string_view ru_vowels = U"йьаеиоуэюяы"_1251;
-constexpr std::string_view ru_consonants = U"бвгджзклмнпрстфхцчшщъ"_1251;
-constexpr std::string_view en_vowels = "aeiouy";
-constexpr std::string_view fr_vowels = U"aeiouyhàâéêëîïôùû"_1252;
-constexpr std::string_view de_vowels = U"aeiouyäüö"_1252;
-constexpr std::string_view latin_consonants = "bcdfghjklmnpqrstvwxz";
+constexpr std::string_view kRuVowels = U"йьаеиоуэюяы"_1251;
+constexpr std::string_view kRuConsonants = U"бвгджзклмнпрстфхцчшщъ"_1251;
+constexpr std::string_view kEnVowels = "aeiouy";
+constexpr std::string_view kFrVowels = U"aeiouyhàâéêëîïôùû"_1252;
+constexpr std::string_view kDeVowels = U"aeiouyäüö"_1252;
+constexpr std::string_view kLatinConsonants = "bcdfghjklmnpqrstvwxz";
 
 // Letters at the same position are each other's partners.
-constexpr std::string_view ru_voiceless = U"спткфш"_1251;
-constexpr std::string_view ru_voiced = U"збдгвщ"_1251;
+constexpr std::string_view kRuVoiceless = U"спткфш"_1251;
+constexpr std::string_view kRuVoiced = U"збдгвщ"_1251;
 
 // Maps the letters of a class to themselves and all other characters to 0.
 consteval CharMap members(std::string_view letters) {
@@ -38,16 +38,16 @@ consteval CharMap partners(std::string_view from, std::string_view to) {
   return map;
 }
 
-constexpr CharMap is_ru_vowel = members(ru_vowels);
-constexpr CharMap is_ru_consonant = members(ru_consonants);
-constexpr CharMap is_ru_voiced = members(ru_voiced);
-constexpr CharMap is_ru_voiceless = members(ru_voiceless);
-constexpr CharMap is_en_vowel = members(en_vowels);
-constexpr CharMap is_fr_vowel = members(fr_vowels);
-constexpr CharMap is_de_vowel = members(de_vowels);
-constexpr CharMap is_latin_consonant = members(latin_consonants);
-constexpr CharMap to_voiceless = partners(ru_voiced, ru_voiceless);
-constexpr CharMap to_voiced = partners(ru_voiceless, ru_voiced);
+constexpr CharMap kIsRuVowel = members(kRuVowels);
+constexpr CharMap kIsRuConsonant = members(kRuConsonants);
+constexpr CharMap kIsRuVoiced = members(kRuVoiced);
+constexpr CharMap kIsRuVoiceless = members(kRuVoiceless);
+constexpr CharMap kIsEnVowel = members(kEnVowels);
+constexpr CharMap kIsFrVowel = members(kFrVowels);
+constexpr CharMap kIsDeVowel = members(kDeVowels);
+constexpr CharMap kIsLatinConsonant = members(kLatinConsonants);
+constexpr CharMap kToVoiceless = partners(kRuVoiced, kRuVoiceless);
+constexpr CharMap kToVoiced = partners(kRuVoiceless, kRuVoiced);
 
 unsigned char look_up(const CharMap& map, int character) {
   return map[static_cast<unsigned char>(character)];
@@ -58,25 +58,25 @@ unsigned char look_up(const CharMap& map, int character) {
 
 using kz::look_up;
 
-const char* GetRuVowel() { return kz::ru_vowels.data(); }
-const char* GetRuConsonant() { return kz::ru_consonants.data(); }
-const char* GetEnVowel() { return kz::en_vowels.data(); }
-const char* GetEnConsonant() { return kz::latin_consonants.data(); }
-const char* GetFrVowel() { return kz::fr_vowels.data(); }
-const char* GetFrConsonant() { return kz::latin_consonants.data(); }
-const char* GetDeVowel() { return kz::de_vowels.data(); }
-const char* GetDeConsonant() { return kz::latin_consonants.data(); }
+const char* GetRuVowel() { return kz::kRuVowels.data(); }
+const char* GetRuConsonant() { return kz::kRuConsonants.data(); }
+const char* GetEnVowel() { return kz::kEnVowels.data(); }
+const char* GetEnConsonant() { return kz::kLatinConsonants.data(); }
+const char* GetFrVowel() { return kz::kFrVowels.data(); }
+const char* GetFrConsonant() { return kz::kLatinConsonants.data(); }
+const char* GetDeVowel() { return kz::kDeVowels.data(); }
+const char* GetDeConsonant() { return kz::kLatinConsonants.data(); }
 
-int16_t IsRuVowel(int character) { return look_up(kz::is_ru_vowel, character); }
-int16_t IsRuConsonant(int character) { return look_up(kz::is_ru_consonant, character); }
-int16_t IsRuVoicedConsonant(int character) { return look_up(kz::is_ru_voiced, character); }
-int16_t IsRuVoiceLessConsonant(int character) { return look_up(kz::is_ru_voiceless, character); }
-int16_t IsEnVowel(int character) { return look_up(kz::is_en_vowel, character); }
-int16_t IsEnConsonant(int character) { return look_up(kz::is_latin_consonant, character); }
-int16_t IsFrVowel(int character) { return look_up(kz::is_fr_vowel, character); }
-int16_t IsFrConsonant(int character) { return look_up(kz::is_latin_consonant, character); }
-int16_t IsDeVowel(int character) { return look_up(kz::is_de_vowel, character); }
-int16_t IsDeConsonant(int character) { return look_up(kz::is_latin_consonant, character); }
+int16_t IsRuVowel(int character) { return look_up(kz::kIsRuVowel, character); }
+int16_t IsRuConsonant(int character) { return look_up(kz::kIsRuConsonant, character); }
+int16_t IsRuVoicedConsonant(int character) { return look_up(kz::kIsRuVoiced, character); }
+int16_t IsRuVoiceLessConsonant(int character) { return look_up(kz::kIsRuVoiceless, character); }
+int16_t IsEnVowel(int character) { return look_up(kz::kIsEnVowel, character); }
+int16_t IsEnConsonant(int character) { return look_up(kz::kIsLatinConsonant, character); }
+int16_t IsFrVowel(int character) { return look_up(kz::kIsFrVowel, character); }
+int16_t IsFrConsonant(int character) { return look_up(kz::kIsLatinConsonant, character); }
+int16_t IsDeVowel(int character) { return look_up(kz::kIsDeVowel, character); }
+int16_t IsDeConsonant(int character) { return look_up(kz::kIsLatinConsonant, character); }
 
-uint8_t ToRuVoiceLessConsonant(int character) { return look_up(kz::to_voiceless, character); }
-uint8_t ToRuVoicedConsonant(int character) { return look_up(kz::to_voiced, character); }
+uint8_t ToRuVoiceLessConsonant(int character) { return look_up(kz::kToVoiceless, character); }
+uint8_t ToRuVoicedConsonant(int character) { return look_up(kz::kToVoiced, character); }

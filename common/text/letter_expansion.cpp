@@ -14,12 +14,12 @@ consteval ByteMap yo_to_ie() {
   return map;
 }
 
-constexpr Translation without_yo{yo_to_ie()};
+constexpr Translation kWithoutYo{yo_to_ie()};
 
 // The code of the sharp s in IBM CP850.
-constexpr unsigned char oem_sharp_s = 225;
-constexpr unsigned char ansi_sharp_s = U'ß'_1252;
-constexpr unsigned char ansi_oe = U'œ'_1252;
+constexpr unsigned char kOemSharpS = 225;
+constexpr unsigned char kAnsiSharpS = U'ß'_1252;
+constexpr unsigned char kAnsiOe = U'œ'_1252;
 
 // Copies a text with each `letter` written as two others; returns how many there were.
 std::uint16_t expand(const char* source, char* destination, unsigned char letter,
@@ -42,16 +42,16 @@ std::uint16_t expand(const char* source, char* destination, unsigned char letter
 }  // namespace kz
 
 char* kz_codr_ee(char* text) {
-  if (text != nullptr) kz::translate_text(text, text, kz::without_yo);
+  if (text != nullptr) kz::translate_text(text, text, kz::kWithoutYo);
   return text;
 }
 
 uint16_t kz_codr_oem_ss(const char* source, char* destination) {
-  return kz::expand(source, destination, kz::oem_sharp_s, "ss");
+  return kz::expand(source, destination, kz::kOemSharpS, "ss");
 }
 uint16_t kz_codr_ansi_ss(const char* source, char* destination) {
-  return kz::expand(source, destination, kz::ansi_sharp_s, "ss");
+  return kz::expand(source, destination, kz::kAnsiSharpS, "ss");
 }
 uint16_t kz_codr_ansi_oe(const char* source, char* destination) {
-  return kz::expand(source, destination, kz::ansi_oe, "oe");
+  return kz::expand(source, destination, kz::kAnsiOe, "oe");
 }

@@ -69,12 +69,12 @@ consteval std::array<LetterPair<RussianCodes>, 33> make_russian_letters() {
 
 }  // namespace letters
 
-inline constexpr auto russian_letters = letters::make_russian_letters();
+inline constexpr auto kRussianLetters = letters::make_russian_letters();
 
 // CP850 has no oe ligature: that pair has its Windows-1252 codes there, one of which, 140, is also
 // the small i with circumflex. Where a code is found twice the earlier pair counts, and in a pair
 // the small letter.
-inline constexpr std::array<LetterPair<WesternCodes>, 17> western_letters{{
+inline constexpr std::array<LetterPair<WesternCodes>, 17> kWesternLetters{{
     {{U'ä'_1252, 132}, {U'Ä'_1252, 142}},
     {{U'ö'_1252, 148}, {U'Ö'_1252, 153}},
     {{U'ü'_1252, 129}, {U'Ü'_1252, 154}},
@@ -96,7 +96,7 @@ inline constexpr std::array<LetterPair<WesternCodes>, 17> western_letters{{
 
 // Both Windows code pages have these at the same codes, but for 180: a Ukrainian letter in one, the
 // acute accent in the other, and typed for an apostrophe in both.
-inline constexpr std::array<Punctuation, 12> typographic_punctuation{{
+inline constexpr std::array<Punctuation, 12> kTypographicPunctuation{{
     {U'„'_1251, '"'},
     {U'“'_1251, '"'},
     {U'”'_1251, '"'},

@@ -84,22 +84,22 @@ consteval Bytes<N> encode(const Utf32<N>& source, unsigned char (*code)(char32_t
 }
 
 template <Utf32 Text>
-inline constexpr auto in_1251 = encode(Text, to_1251);
+inline constexpr auto kIn1251 = encode(Text, to_1251);
 template <Utf32 Text>
-inline constexpr auto in_1252 = encode(Text, to_1252);
+inline constexpr auto kIn1252 = encode(Text, to_1252);
 
 }  // namespace literal
 
 // U"дом"_1251: the text in Windows-1251.
 template <literal::Utf32 Text>
 consteval std::string_view operator""_1251() {
-  return {literal::in_1251<Text>.text, sizeof literal::in_1251<Text>.text - 1};
+  return {literal::kIn1251<Text>.text, sizeof literal::kIn1251<Text>.text - 1};
 }
 
 // U"für"_1252: the text in Windows-1252.
 template <literal::Utf32 Text>
 consteval std::string_view operator""_1252() {
-  return {literal::in_1252<Text>.text, sizeof literal::in_1252<Text>.text - 1};
+  return {literal::kIn1252<Text>.text, sizeof literal::kIn1252<Text>.text - 1};
 }
 
 // U'я'_1251, U'ß'_1252: the code of one character.

@@ -17,7 +17,7 @@ namespace kz {
 namespace {
 
 bool equal_ignoring_case(const char* a, const char* b) {
-  for (; ascii_case.upper[*a] == ascii_case.upper[*b]; ++a, ++b) {
+  for (; kAsciiCase.upper[*a] == kAsciiCase.upper[*b]; ++a, ++b) {
     if (*a == '\0') return true;
   }
   return false;
@@ -28,7 +28,7 @@ bool same_language(const char* a, const char* b) {
   const auto both = [&](const char(&code)[3]) {
     return is_language(a, code) && is_language(b, code);
   };
-  return both(code::en) || both(code::de) || both(code::fr) || both(code::ru);
+  return both(code::kEn) || both(code::kDe) || both(code::kFr) || both(code::kRu);
 }
 
 // A letter in ASCII notation: a plain letter, then a mark.
@@ -37,11 +37,11 @@ struct Digraph {
   unsigned char letter;
 };
 
-constexpr Digraph german_digraphs[] = {
+constexpr Digraph kGermanDigraphs[] = {
     {'a', '"', U'ä'_1252}, {'A', '"', U'Ä'_1252}, {'o', '"', U'ö'_1252}, {'O', '"', U'Ö'_1252},
     {'u', '"', U'ü'_1252}, {'U', '"', U'Ü'_1252}, {'S', 's', U'ß'_1252},
 };
-constexpr Digraph french_digraphs[] = {
+constexpr Digraph kFrenchDigraphs[] = {
     {'a', '`', U'à'_1252},  {'A', '`', U'À'_1252},  {'a', '^', U'â'_1252}, {'A', '^', U'Â'_1252},
     {'c', '~', U'ç'_1252},  {'C', '~', U'Ç'_1252},  {'e', '`', U'è'_1252}, {'E', '`', U'È'_1252},
     {'e', '\'', U'é'_1252}, {'E', '\'', U'É'_1252}, {'e', '^', U'ê'_1252}, {'E', '^', U'Ê'_1252},
@@ -71,16 +71,16 @@ struct DigraphTable {
   }
 };
 
-constexpr DigraphTable german_notation{german_digraphs};
-constexpr DigraphTable french_notation{french_digraphs};
+constexpr DigraphTable kGermanNotation{kGermanDigraphs};
+constexpr DigraphTable kFrenchNotation{kFrenchDigraphs};
 
 // The notation that a direction from or to the language uses, null if it has none.
 const DigraphTable* notation_of(const char* language) {
-  if (is_language(language, code::de) || equal_ignoring_case(language, code::rude)) {
-    return &german_notation;
+  if (is_language(language, code::kDe) || equal_ignoring_case(language, code::kRude)) {
+    return &kGermanNotation;
   }
-  if (is_language(language, code::fr) || equal_ignoring_case(language, code::rufr)) {
-    return &french_notation;
+  if (is_language(language, code::kFr) || equal_ignoring_case(language, code::kRufr)) {
+    return &kFrenchNotation;
   }
   return nullptr;
 }

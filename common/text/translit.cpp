@@ -23,7 +23,7 @@ struct Pair {
   std::string_view spelling;
 };
 
-constexpr Pair russian_capitals[] = {
+constexpr Pair kRussianCapitals[] = {
     {U'А'_1251, "A"},  {U'Б'_1251, "B"},   {U'В'_1251, "V"},  {U'Г'_1251, "G"}, {U'Д'_1251, "D"},
     {U'Е'_1251, "E"},  {U'Ё'_1251, "YO"},  {U'Ж'_1251, "ZH"}, {U'З'_1251, "Z"}, {U'И'_1251, "I"},
     {U'Й'_1251, "Y"},  {U'К'_1251, "K"},   {U'Л'_1251, "L"},  {U'М'_1251, "M"}, {U'Н'_1251, "N"},
@@ -33,13 +33,13 @@ constexpr Pair russian_capitals[] = {
     {U'Э'_1251, "E"},  {U'Ю'_1251, "YU"},  {U'Я'_1251, "YA"},
 };
 
-constexpr Pair punctuation[] = {{';', ","}, {'<', "("}, {'[', "("},
-                                {'>', ")"}, {']', ")"}, {'@', "::"}};
+constexpr Pair kPunctuation[] = {{';', ","}, {'<', "("}, {'[', "("},
+                                 {'>', ")"}, {']', ")"}, {'@', "::"}};
 
 // The Russian letters by place of the Latin one.
-constexpr std::string_view russian_small_letters = U"абсдефгхийклмнопкрстуввхиз"_1251;
-constexpr std::string_view russian_capital_letters = U"АБЦДЕФГХИЙКЛМНОПКРСТУВВХИЗ"_1251;
-static_assert(russian_small_letters.size() == 26 && russian_capital_letters.size() == 26);
+constexpr std::string_view kRussianSmallLetters = U"абсдефгхийклмнопкрстуввхиз"_1251;
+constexpr std::string_view kRussianCapitalLetters = U"АБЦДЕФГХИЙКЛМНОПКРСТУВВХИЗ"_1251;
+static_assert(kRussianSmallLetters.size() == 26 && kRussianCapitalLetters.size() == 26);
 
 consteval Spelling spelling(std::string_view text) {
   Spelling result{};
@@ -57,14 +57,14 @@ enum class SmallLetters { stay_small, become_capital };
 
 consteval Spellings make_latin(SmallLetters small_letters) {
   Spellings spellings = unchanged();
-  for (const auto& [capital, latin] : russian_capitals) {
+  for (const auto& [capital, latin] : kRussianCapitals) {
     Spelling small = spellings[capital] = spelling(latin);
     if (small_letters == SmallLetters::stay_small) {
       for (char& c : small) {
-        c = static_cast<char>(ascii_case.lower.codes[static_cast<unsigned char>(c)]);
+        c = static_cast<char>(kAsciiCase.lower.codes[static_cast<unsigned char>(c)]);
       }
     }
-    spellings[ru_ansi_case.lower.codes[capital]] = small;
+    spellings[kRuAnsiCase.lower.codes[capital]] = small;
   }
   return spellings;
 }
@@ -78,7 +78,7 @@ consteval Spellings make_latin_lower() {
 
 consteval Spellings make_latin_capitals() {
   Spellings spellings = make_latin(SmallLetters::become_capital);
-  for (const auto& [character, text] : punctuation) spellings[character] = spelling(text);
+  for (const auto& [character, text] : kPunctuation) spellings[character] = spelling(text);
   return spellings;
 }
 
@@ -87,31 +87,31 @@ consteval Spellings make_russian(Language language) {
   for (std::size_t c = 0; c < 256; ++c) {
     const unsigned char base = base_letters_of(language)[c];
     if (base < 'a' || base > 'z') continue;
-    const bool is_capital = (char_class::table[c] & char_class::ansi_upper) != 0;
-    const auto& letters = is_capital ? russian_capital_letters : russian_small_letters;
+    const bool is_capital = (char_class::kTable[c] & char_class::kAnsiUpper) != 0;
+    const auto& letters = is_capital ? kRussianCapitalLetters : kRussianSmallLetters;
     spellings[c][0] = letters[base - std::size_t{'a'}];
   }
   return spellings;
 }
 
-constexpr Spellings latin = make_latin(SmallLetters::stay_small);
-constexpr Spellings latin_lower = make_latin_lower();
-constexpr Spellings latin_capitals = make_latin_capitals();
+constexpr Spellings kLatin = make_latin(SmallLetters::stay_small);
+constexpr Spellings kLatinLower = make_latin_lower();
+constexpr Spellings kLatinCapitals = make_latin_capitals();
 // By Language.
-constexpr std::array<Spellings, 4> russian{
+constexpr std::array<Spellings, 4> kRussian{
     make_russian(Language::other), make_russian(Language::russian), make_russian(Language::german),
     make_russian(Language::french)};
 
 bool is_english(const char* language) {
-  if (!is_language(language, code::en)) return false;
-  return language[2] == '\0' || (is_language(language + 2, code::ru) && language[4] == '\0');
+  if (!is_language(language, code::kEn)) return false;
+  return language[2] == '\0' || (is_language(language + 2, code::kRu) && language[4] == '\0');
 }
 
 const Spellings& spellings_for(const char* language) {
-  if (language == nullptr) return russian[static_cast<std::size_t>(Language::french)];
-  if (*language == 'R') return latin;
-  if (is_english(language)) return latin_capitals;
-  return russian[static_cast<std::size_t>(language_of(language))];
+  if (language == nullptr) return kRussian[static_cast<std::size_t>(Language::french)];
+  if (*language == 'R') return kLatin;
+  if (is_english(language)) return kLatinCapitals;
+  return kRussian[static_cast<std::size_t>(language_of(language))];
 }
 
 char* append(const Spellings& spellings, char character, char* out) {
@@ -138,9 +138,9 @@ char* write_text(const Spellings& spellings, const char* source, char* out) {
 char* translit(int character, char* out, const char* language, int16_t /*flags*/) {
   return kz::write_one(kz::spellings_for(language), character, out);
 }
-char* translitru(int character, char* out) { return kz::write_one(kz::latin, character, out); }
+char* translitru(int character, char* out) { return kz::write_one(kz::kLatin, character, out); }
 char* translitenru(int character, char* out) {
-  return kz::write_one(kz::latin_capitals, character, out);
+  return kz::write_one(kz::kLatinCapitals, character, out);
 }
 
 char* strtransliterate(const char* source, char* destination, const char* language,
@@ -150,5 +150,5 @@ char* strtransliterate(const char* source, char* destination, const char* langua
 
 char* xliteratr(char* destination, const char* source, int16_t lower) {
   if (source == nullptr || *source == '\0' || destination == nullptr) return destination;
-  return kz::write_text(lower != 0 ? kz::latin_lower : kz::latin, source, destination);
+  return kz::write_text(lower != 0 ? kz::kLatinLower : kz::kLatin, source, destination);
 }

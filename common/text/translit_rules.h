@@ -38,7 +38,7 @@ struct RuleText {
 };
 
 // For each letter the first rule that applies counts.
-inline constexpr RuleText rule_texts[] = {
+inline constexpr RuleText kRuleTexts[] = {
     {'a', "[uw]", U"о"_1251, 2},
     {'a', "ir", U"еа"_1251, 2},
     {'a', "i", U"ей"_1251, 2},
@@ -160,35 +160,35 @@ inline constexpr RuleText rule_texts[] = {
 using Kinds = std::uint32_t;
 
 constexpr Kinds small(char letter) { return Kinds{1} << (letter - 'a'); }
-inline constexpr Kinds capital_r = Kinds{1} << 26;
-inline constexpr Kinds capital_o = Kinds{1} << 27;
-inline constexpr Kinds end_of_text = Kinds{1} << 28;
-inline constexpr Kinds white_space = Kinds{1} << 29;
-inline constexpr Kinds other = Kinds{1} << 30;
+inline constexpr Kinds kCapitalR = Kinds{1} << 26;
+inline constexpr Kinds kCapitalO = Kinds{1} << 27;
+inline constexpr Kinds kEndOfText = Kinds{1} << 28;
+inline constexpr Kinds kWhiteSpace = Kinds{1} << 29;
+inline constexpr Kinds kOther = Kinds{1} << 30;
 
 constexpr Kinds letter(char c) {
   switch (c) {
-    case 'r': return small('r') | capital_r;
-    case 'o': return small('o') | capital_o;
+    case 'r': return small('r') | kCapitalR;
+    case 'o': return small('o') | kCapitalO;
     default: return small(c);
   }
 }
 
-inline constexpr Kinds any = ~end_of_text;
-inline constexpr Kinds vowel_or_end =
-    letter('a') | letter('e') | letter('i') | letter('o') | letter('u') | letter('y') | end_of_text;
+inline constexpr Kinds kAny = ~kEndOfText;
+inline constexpr Kinds kVowelOrEnd =
+    letter('a') | letter('e') | letter('i') | letter('o') | letter('u') | letter('y') | kEndOfText;
 
 consteval std::array<Kinds, 256> make_kinds() {
   std::array<Kinds, 256> kinds{};
   for (std::size_t c = 0; c < kinds.size(); ++c) {
-    kinds[c] = (char_class::table[c] & char_class::space) != 0 ? white_space : other;
+    kinds[c] = (char_class::kTable[c] & char_class::kSpace) != 0 ? kWhiteSpace : kOther;
   }
   for (std::size_t c = 'a'; c <= 'z'; ++c) {
     kinds[c] = kinds[c - 'a' + 'A'] = small(static_cast<char>(c));
   }
-  kinds['R'] = capital_r;
-  kinds['O'] = capital_o;
-  kinds[0] = end_of_text;
+  kinds['R'] = kCapitalR;
+  kinds['O'] = kCapitalO;
+  kinds[0] = kEndOfText;
   return kinds;
 }
 
@@ -207,9 +207,9 @@ consteval Kinds take_sign(std::string_view& pattern) {
   const char c = pattern.front();
   pattern.remove_prefix(1);
   switch (c) {
-    case '#': return ~vowel_or_end;
-    case '.': return any;
-    case '_': return white_space | end_of_text;
+    case '#': return ~kVowelOrEnd;
+    case '.': return kAny;
+    case '_': return kWhiteSpace | kEndOfText;
     case '=': {
       const Kinds kind = small(pattern.front());
       pattern.remove_prefix(1);
@@ -230,13 +230,13 @@ consteval Rule compile(const RuleText& text) {
   Rule rule{.size = text.size, .place = text.place};
   for (std::string_view pattern = text.follow; !pattern.empty();) {
     const bool behind_end =
-        rule.follow_size > 0 && (rule.follow[rule.follow_size - 1u] & end_of_text) != 0;
+        rule.follow_size > 0 && (rule.follow[rule.follow_size - 1u] & kEndOfText) != 0;
     if (behind_end) throw "a pattern that looks behind the end of the text";
     rule.follow[rule.follow_size++] = take_sign(pattern);
   }
   for (const char c : text.out) rule.out[rule.out_size++] = c;
   const bool consumes_end = rule.size == rule.follow_size + 1 && rule.follow_size > 0 &&
-                            (rule.follow[rule.follow_size - 1u] & end_of_text) != 0;
+                            (rule.follow[rule.follow_size - 1u] & kEndOfText) != 0;
   if (rule.size > rule.follow_size + 1 || consumes_end)
     throw "a rule that consumes what it ignores";
   if (rule.out_size > 2 * rule.size) throw "a rule that needs more room than is promised";
@@ -244,22 +244,22 @@ consteval Rule compile(const RuleText& text) {
 }
 
 struct Rules {
-  std::array<Rule, std::size(rule_texts)> rules{};
+  std::array<Rule, std::size(kRuleTexts)> rules{};
   std::array<std::uint8_t, 26> first{};  // by letter; the last rule of each letter always applies
 };
 
 consteval Rules compile_rules() {
   Rules result;
   char previous = 'a' - 1;
-  for (std::size_t i = 0; i < std::size(rule_texts); ++i) {
-    const RuleText& text = rule_texts[i];
+  for (std::size_t i = 0; i < std::size(kRuleTexts); ++i) {
+    const RuleText& text = kRuleTexts[i];
     result.rules[i] = compile(text);
     if (text.letter != previous) {
       if (text.letter != previous + 1) throw "letters out of order";
       result.first[static_cast<std::size_t>(text.letter - 'a')] = static_cast<std::uint8_t>(i);
       previous = text.letter;
     }
-    const bool is_last = i + 1 == std::size(rule_texts) || rule_texts[i + 1].letter != text.letter;
+    const bool is_last = i + 1 == std::size(kRuleTexts) || kRuleTexts[i + 1].letter != text.letter;
     const bool applies_always = text.follow.empty() && text.place == Place::anywhere;
     if (is_last != applies_always) throw "a letter without a last rule";
   }
@@ -267,8 +267,8 @@ consteval Rules compile_rules() {
   return result;
 }
 
-inline constexpr std::array<Kinds, 256> kinds = make_kinds();
-inline constexpr Rules compiled = compile_rules();
+inline constexpr std::array<Kinds, 256> kKinds = make_kinds();
+inline constexpr Rules kCompiled = compile_rules();
 
 }  // namespace kz::smart
 

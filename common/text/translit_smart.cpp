@@ -14,12 +14,12 @@ using smart::Kinds;
 using smart::Place;
 using smart::Rule;
 
-Kinds kind_of(char c) { return smart::kinds[static_cast<unsigned char>(c)]; }
+Kinds kind_of(char c) { return smart::kKinds[static_cast<unsigned char>(c)]; }
 
-bool is_capital(char c) { return is_in(c, char_class::ascii_upper); }
+bool is_capital(char c) { return is_in(c, char_class::kAsciiUpper); }
 
 bool is_behind_vowel(const char* text, std::size_t position) {
-  return position > 0 && (kind_of(text[position - 1]) & smart::vowel_or_end) != 0;
+  return position > 0 && (kind_of(text[position - 1]) & smart::kVowelOrEnd) != 0;
 }
 
 bool is_place(Place place, const char* text, std::size_t position) {
@@ -43,8 +43,8 @@ bool applies(const Rule& rule, const char* text, std::size_t position) {
 
 // The rule for the Latin letter at the position.
 const Rule& rule_at(const char* text, std::size_t position) {
-  const auto letter = static_cast<std::size_t>(ascii_case.lower[text[position]] - 'a');
-  const Rule* rule = &smart::compiled.rules[smart::compiled.first[letter]];
+  const auto letter = static_cast<std::size_t>(kAsciiCase.lower[text[position]] - 'a');
+  const Rule* rule = &smart::kCompiled.rules[smart::kCompiled.first[letter]];
   while (!applies(*rule, text, position)) ++rule;
   return *rule;
 }
@@ -55,7 +55,7 @@ char* write_capitals(const Rule& rule, char next, char* out) {
   const std::size_t capitals = is_capital(next) ? rule.out_size : 1;
   for (std::size_t i = 0; i < rule.out_size; ++i) {
     const char c = rule.out[i];
-    *out++ = i < capitals ? static_cast<char>(ru_ansi_case.upper[c]) : c;
+    *out++ = i < capitals ? static_cast<char>(kRuAnsiCase.upper[c]) : c;
   }
   return out;
 }
@@ -68,7 +68,7 @@ char* strtransliterateenrusmart(const char* source, char* destination, int16_t s
   char* out = destination;
   for (std::size_t position = 0; source[position] != '\0';) {
     const char c = source[position];
-    if (!kz::is_in(c, kz::char_class::ascii_alpha)) {
+    if (!kz::is_in(c, kz::char_class::kAsciiAlpha)) {
       *out++ = c;
       ++position;
       continue;

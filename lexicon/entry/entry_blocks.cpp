@@ -8,7 +8,7 @@
 namespace kz::lexicon {
 namespace {
 
-constexpr auto npos = std::string_view::npos;
+constexpr auto kNone = std::string_view::npos;
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
@@ -76,7 +76,7 @@ std::string head_block(std::string_view entry) {
   const EntryLayout at = layout_of(entry);
   const std::string_view part = entry.substr(at.part, at.body - at.part);
   const std::size_t open = part.find('[');
-  if (open == npos) return {};
+  if (open == kNone) return {};
   return std::string(part.substr(open + 1, close_of(part, open) - open - 1));
 }
 

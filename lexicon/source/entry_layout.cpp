@@ -17,7 +17,7 @@ constexpr std::size_t kExtensionReach = 8;
 
 template <typename Char>
 EntryLayout layout(std::basic_string_view<Char> entry) {
-  constexpr auto npos = std::basic_string_view<Char>::npos;
+  constexpr auto kNone = std::basic_string_view<Char>::npos;
   EntryLayout result;
   const std::size_t size = entry.size();
   result.head_end = std::min(entry.rfind(Char{'*'}), size);
@@ -30,11 +30,11 @@ EntryLayout layout(std::basic_string_view<Char> entry) {
 
   constexpr std::array<Char, 2> kTwo = {'\\', '\\'};
   const std::size_t two = entry.find(std::basic_string_view<Char>(kTwo.data(), 2), rest);
-  if (two != npos && two + 2 < size) result.source_word = two;
+  if (two != kNone && two + 2 < size) result.source_word = two;
   result.source = result.source_word;
   if (part_code != '$') {
     const std::size_t one = entry.find(Char{'\\'}, rest);
-    if (one != npos) result.source = std::min(one, result.source_word);
+    if (one != kNone) result.source = std::min(one, result.source_word);
   }
   result.body = std::min(rest, result.source);
   if (part_code == 'W' || part_code == 'w' || part_code == '$') return result;
@@ -44,7 +44,7 @@ EntryLayout layout(std::basic_string_view<Char> entry) {
   for (std::size_t at = rest; at < reach; ++at) {
     if (text[at] != '[' && text[at] != ' ' && text[at] != '{') continue;
     const std::size_t close = text.find(Char{']'}, rest);
-    if (close != npos && close > at) result.body = close + 1;
+    if (close != kNone && close > at) result.body = close + 1;
     break;
   }
   return result;

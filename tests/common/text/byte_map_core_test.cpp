@@ -28,7 +28,7 @@ TEST(VectorCode, TranslatesEveryLengthInPlaceWithoutReachingOutside) {
   for (const VectorCode code : {VectorCode::none, VectorCode::avx2, VectorCode::avx512}) {
     if (code > best_vector_code()) continue;
     for (const Translation* translation :
-         {&scramble, &ru_ansi_to_oem, &oem_to_ansi, &ru_ansi_case.upper, &ansi_case.lower}) {
+         {&scramble, &kRuAnsiToOem, &kOemToAnsi, &kRuAnsiCase.upper, &kAnsiCase.lower}) {
       for (const std::size_t size : kz_test::interesting_sizes()) {
         const std::string text = kz_test::random_text(size, static_cast<unsigned>(size));
         char* bytes = text.copy(memory.last(size), size) == size ? memory.last(size) : nullptr;
@@ -45,7 +45,7 @@ TEST(VectorCode, TranslatesEveryLengthInPlaceWithoutReachingOutside) {
 
 TEST(Translate, GoesOnBehindZeroBytes) {
   std::string text = std::string(100, 'a') + '\0' + "b";
-  translate(text.data(), text.data(), text.size(), ascii_case.upper);
+  translate(text.data(), text.data(), text.size(), kAsciiCase.upper);
   EXPECT_EQ(text, std::string(100, 'A') + '\0' + "B");
 }
 
