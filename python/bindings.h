@@ -48,6 +48,7 @@ void bind_importers(py::module_& module);
 void bind_inflector(py::module_& module);
 void bind_output(py::module_& module);
 void bind_source(py::module_& module);
+void bind_text(py::module_& module);
 
 }  // namespace kz::python
 

@@ -18,4 +18,5 @@ PYBIND11_MODULE(_native, module) {
   python::bind_builder(module);
   python::bind_importers(module);
   python::bind_output(module);
+  python::bind_text(module);
 }

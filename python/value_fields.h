@@ -354,6 +354,16 @@ struct Value<lexicon::ImportSummary> {
                                       field("losses", &T::losses)};
 };
 
+// text.h
+
+template <>
+struct Value<lexicon::Alphabet> {
+  using T = lexicon::Alphabet;
+  static constexpr auto kName = const_name("Alphabet");
+  static constexpr std::array kMembers{std::pair("LATIN", T::kLatin),
+                                       std::pair("RUSSIAN", T::kRussian)};
+};
+
 }  // namespace kz::python
 
 #endif  // PYTHON_VALUE_FIELDS_H

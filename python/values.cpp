@@ -56,7 +56,7 @@ void declare_values() {
               Header, Statistics, Step, Answer, MissingDictionary, InflectionReading, Ending,
               WordGroup, HeadwordForm, SourceLine, Property, Properties, PlainMeaning, PlainEntry,
               Losses, SourceFormatter::Line, Diagnostic::Severity, Diagnostic, BuildSummary,
-              ImportSummary>(py::module_::import("kzlexicon._values"));
+              ImportSummary, Alphabet>(py::module_::import("kzlexicon._values"));
 }
 
 }  // namespace kz::python

@@ -412,3 +412,13 @@ class ImportSummary:
     unindexed: int  # headwords left out: without a letter, or too long
     empty: int  # articles of which no translation is left
     losses: Losses
+
+
+# Texts
+
+
+class Alphabet(enum.Enum):
+    """The letters into which a filter turns text."""
+
+    LATIN = 0
+    RUSSIAN = 1

@@ -73,6 +73,26 @@ def test_code_pages_agree_with_the_codecs_of_python():
     assert kzlexicon.code_page_name(CodePage.WESTERN) == "Windows-1252"
 
 
+def test_texts_made_of_texts(tmp_path):
+    russian = kzlexicon.Alphabet.RUSSIAN
+    (tmp_path / "words.rpl").write_bytes("кот=кошка\r\n".encode("cp1251"))
+    for text_filter, text, expected in [
+            (kzlexicon.transliteration(), "ёж", "yozh"),
+            (kzlexicon.transliteration(to=russian, smart=True), "station", "сташн"),
+            (kzlexicon.keyboard_layout(), "ghbdtn", "привет"),
+            (kzlexicon.keyboard_layout(to=russian, look_alike=True), "POCA", "РОСА"),
+            (kzlexicon.replacement(tmp_path / "words.rpl"), "кот", "кошка")]:
+        assert text_filter.apply(text) == expected
+    with pytest.raises(kzlexicon.ArgumentError):
+        kzlexicon.transliteration(small_letters=True)
+    assert kzlexicon.Conversion("koi8-r", "UTF8").apply("мир".encode("koi8-r")) == "мир".encode()
+    with pytest.raises(kzlexicon.CodePageError):
+        kzlexicon.Conversion("utf-8", "koi8-r").apply("№".encode())
+    narrow = kzlexicon.convert_narrow("дом".encode("cp1251"), "windows-1251", "cp866")
+    assert narrow == "дом".encode("cp866")
+    assert all(kzlexicon.Conversion(name, "utf-8") for name in kzlexicon.encodings())
+
+
 def test_grammar_in_words():
     decoded = kzlexicon.decode_tags("N", "MS@")
     assert [str(field) for field in decoded.fields] == ["gender=masculine", "number=singular",
