@@ -69,7 +69,7 @@ void bind_dictionary(py::module_& module) {
           },
           py::arg("data"), py::arg("name") = Text{"(memory)"}, Released(),
           "Opens the bytes of a dictionary file, such as Builder.to_bytes gives.\n\n"
-          "The name stands for it in messages.")
+          "Messages call it by the name.")
       .def_property_readonly(
           "path",
           [](OpenDictionary& self) {

@@ -54,7 +54,7 @@ void bind_reader(py::module_& module) {
             return self;
           },
           py::arg("text"), py::arg("name"), py::return_value_policy::reference, Released(),
-          "Adds a text, for which the name stands in messages; returns the reader.")
+          "Adds a text, which messages call by the name; returns the reader.")
       .def(
           "add_file",
           [](Reader& self, const Path& path) -> Reader& {
