@@ -71,6 +71,7 @@ void bind_output(py::module_& module) {
       "refuse_inputs_as_output",
       [](const Path& output, const std::vector<Path>& inputs) {
         std::vector<std::string> paths;
+        paths.reserve(inputs.size());
         for (const Path& input : inputs) paths.push_back(input.value);
         lexicon::refuse_inputs_as_output(output.value, paths);
       },
