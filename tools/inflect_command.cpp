@@ -32,7 +32,8 @@ Json as_json(const InflectionReading& reading) {
 
 class Inflection : public WordSession {
  public:
-  explicit Inflection(const InflectOptions& options) : options_(options), table_(options.table) {}
+  explicit Inflection(const InflectOptions& options)
+      : options_(options), table_(open_table(options.table)) {}
 
   bool answer(const std::string& word, bool line) override {
     std::vector<Ending> endings = table_.endings(word);
@@ -91,6 +92,16 @@ void compile(const InflectOptions& options) {
 }
 
 }  // namespace
+
+Inflector open_table(const std::string& path) {
+  try {
+    return Inflector(path);
+  } catch (const Error& error) {
+    if (error.code() == ErrorCode::kArgument) throw;
+    throw Failure(status_of(error),
+                  std::string(error.what()) + " (kzdic inflect --build makes a table)");
+  }
+}
 
 Status inflect(const InflectOptions& options) {
   if (options.source.empty() && options.words.empty()) {

@@ -5,9 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "kzlexicon/inflector.h"
 #include "tools/status.h"
 
 namespace kzdic {
+
+// Opens an inflection table. Throws Error, which names the command that makes a table.
+Inflector open_table(const std::string& path);
 
 struct InflectOptions {
   std::string table;

@@ -11,6 +11,7 @@
 #include "kzlexicon/dictionary.h"
 #include "kzlexicon/inflector.h"
 #include "tools/entry_printer.h"
+#include "tools/inflect_command.h"
 #include "tools/status.h"
 #include "tools/streams.h"
 
@@ -28,7 +29,7 @@ class Lookup : public WordSession {
  public:
   explicit Lookup(const LookupOptions& options)
       : options_(options), printer_(make_printer(options.raw, options.json, options.grammar)) {
-    if (!options.inflected.empty()) table_.emplace(options.inflected);
+    if (!options.inflected.empty()) table_ = open_table(options.inflected);
     for (const std::string& path : options.dictionaries) opened_.emplace_back(path);
     for (Dictionary& dictionary : opened_) dictionaries_.push_back(&dictionary);
     if (!options.set.directory.empty()) open_set();

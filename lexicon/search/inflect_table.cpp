@@ -22,7 +22,6 @@
 namespace kz::lexicon {
 namespace {
 
-constexpr const char* kHint = " (kzdic inflect --build makes a table)";
 constexpr unsigned kReadDenyingWrite = KZ_FILE_READ | KZ_FILE_SHARE_READ;
 constexpr std::string_view kCompiledExtension = ".Dat";
 constexpr std::size_t kLongestEnding = 79;
@@ -195,15 +194,14 @@ std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path) {
   errno = 0;
   if (file.Open(path.c_str(), kReadDenyingWrite) == 0) {
     const std::string reason = std::strerror(errno);
-    throw Error(ErrorCode::kFile, "cannot open: " + reason + kHint, {path});
+    throw Error(ErrorCode::kFile, "cannot open: " + reason, {path});
   }
   // By a name without ".Dat" it reads this file or none, and writes none.
   const std::string name = "/proc/self/fd/" + std::to_string(static_cast<int>(file));
   auto table = std::make_unique<CGrSrcWordFlex>();
   // An empty one would be looked for again.
   if (table->Load(name.c_str(), "", 1) != 0 || table->GetFirstFlex() == nullptr) {
-    throw Error(ErrorCode::kData, std::string("not an inflection table, or a damaged one") + kHint,
-                {path});
+    throw Error(ErrorCode::kData, "not an inflection table, or a damaged one", {path});
   }
   return table;
 }

@@ -68,7 +68,9 @@ class LetterRange {
 
 struct Dictionary::Walk::Impl {
   Impl(const Dictionary::Impl& dictionary, const WalkRange& range)
-      : shown(dictionary.shown),
+      : path(dictionary.path),
+        shown(dictionary.shown),
+        header(dictionary.header),
         letters(dictionary.header.stated, range.first, range.last),
         memory(dictionary.memory),
         entry({}, dictionary.header.stated.language) {
@@ -87,7 +89,15 @@ struct Dictionary::Walk::Impl {
     return DicIteratorGetFirstEntry(iterator.get(), nullptr, nullptr, nullptr, nullptr, 0);
   }
 
+  // False when the file cannot give the records that its header states.
+  bool is_readable() const {
+    const auto size = static_cast<std::size_t>(header.stated.record_bytes);
+    return read_bytes(path, header.data_offset, size).size() == size;
+  }
+
+  std::string path;
   std::string shown;
+  FileHeader header;
   LetterRange letters;
   std::shared_ptr<const platform::MemoryFile> memory;
   IteratorHandle iterator;
@@ -107,7 +117,8 @@ bool Dictionary::Walk::next() {
     impl_->entry = Entry(record, impl_->entry.language());
     return true;
   }
-  if (record == nullptr && kz_dict_dic_errno() == DIC_ERR_FILE) {
+  // The error variable is one for the process: another thread may have set it.
+  if (record == nullptr && kz_dict_dic_errno() == DIC_ERR_FILE && !impl_->is_readable()) {
     throw Error(ErrorCode::kFile, "cannot read", {impl_->shown});
   }
   return false;

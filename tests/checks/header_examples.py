@@ -24,9 +24,6 @@ EXAMPLE = {"kz": re.compile(r"((?:^(?: \*|//) {3}.+\n)+)", re.MULTILINE),
 FUNCTION = re.compile(r"static .*?^}\n", re.MULTILINE | re.DOTALL)
 LINE = re.compile(r"// Output:(?: (.*))?$", re.MULTILINE)
 
-# Examples that the library cannot run yet.
-LEFT_OUT = {"kzlexicon/text.h"}
-
 PETS = "cat*N[|F]кошка\ndig*Vкопать\ndog*N[|F]собака;пёс[M]\n"
 # The texts that the examples read, beside the sample dictionaries and the inflection table.
 FILES = {"words.txt": "cat\r\ndog\r\n", "units.txt": "km kilometre\nk kilo\n",
@@ -42,8 +39,6 @@ def examples(include):
             match = EXAMPLE[folder].search(comment)
             if match is None:
                 sys.exit(f"{header} has no example")
-            if header in LEFT_OUT:
-                continue
             text = "".join(line[5:] + "\n" for line in match[1].splitlines())
             is_cxx = comment.startswith("//") or comment[:match.start()].endswith("C++:\n *\n")
             yield header, text, is_cxx
