@@ -112,7 +112,7 @@ void run(const char* directory) {
   std::printf("From English, %d dictionaries:\n", DicQueGetSize(set.get(), DIC_LIST_ALL));
   translate(set.get(), "ENRU", "table");
 
-  // A dictionary of the user's own stands in front of the others.
+  // A dictionary of the user's own comes before the others.
   const std::string own = std::string(directory) + "my.dic";
   if (DicQueLoad(set.get(), 0, own.c_str(), DIC_MODE_CACHE) == nullptr) fail("no my.dic");
   std::printf("With a dictionary of one's own:\n");

@@ -17,7 +17,7 @@ void require(bool condition) {
   if (!condition) std::abort();
 }
 
-// Nothing stands behind the zero, so that the sanitizer sees every overrun.
+// Nothing follows the zero, so that the sanitizer sees every overrun.
 std::unique_ptr<char[]> exact(const std::string& text) {
   std::unique_ptr<char[]> copy(new char[text.size() + 1]);
   *std::copy(text.begin(), text.end(), copy.get()) = 0;

@@ -12,7 +12,7 @@
 namespace kzdic {
 namespace {
 
-// In front of arguments after "--": the parser would take what begins with '-' for an option even
+// Before arguments after "--": the parser would take what begins with '-' for an option even
 // there, once the command has all arguments that it must have.
 constexpr char kWordMark = '\x01';
 

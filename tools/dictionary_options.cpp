@@ -42,11 +42,11 @@ void add_build(CLI::App& app) {
   CLI::Option* packed = command->add_flag("--packed", options.form.packed, "Front-coded records");
   command
       ->add_flag_callback(
-          "--plain", [] {}, "Records as they stand (the default)")
+          "--plain", [] {}, "Records as plain lines (the default)")
       ->excludes(packed);
   CLI::Option* shared = command->add_flag_callback(
       "--shared", [&options] { options.form.shared = true; },
-      "Equal bodies stand once, in a shared-text block (default when packed)");
+      "Store equal bodies once, in a shared-text block (default when packed)");
   command
       ->add_flag_callback(
           "--no-shared", [&options] { options.form.shared = false; }, "No shared-text block")
@@ -82,7 +82,8 @@ void add_import(CLI::App& app) {
       ->add_option("-o,--output", options.output, "The source text to write; - is standard output")
       ->type_name("FILE")
       ->required();
-  command->add_option("--language", options.language, "Language pair (default: told from the data)")
+  command
+      ->add_option("--language", options.language, "Language pair (default: derived from the data)")
       ->type_name("{ENRU,RUEN,DERU,RUDE,FRRU,RUFR}")
       ->check(one_of({"ENRU", "RUEN", "DERU", "RUDE", "FRRU", "RUFR"}));
   command->add_flag("-q,--quiet", options.quiet, "No summary");

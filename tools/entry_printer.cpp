@@ -79,7 +79,7 @@ class TextPrinter : public Printer {
   bool grammar_;
 };
 
-// Entries as they stand, one per line.
+// Entries as they are, one per line.
 class RawPrinter : public Printer {
  public:
   void print(const std::string& word, const std::vector<Found>& found, bool line) override {

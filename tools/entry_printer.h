@@ -1,4 +1,4 @@
-// Output of look-ups: readable text, entries as they stand, or JSON lines.
+// Output of look-ups: readable text, entries as they are, or JSON lines.
 #ifndef KZ_TOOLS_ENTRY_PRINTER_H
 #define KZ_TOOLS_ENTRY_PRINTER_H
 

@@ -29,7 +29,7 @@ void take_dashes(const Command& command) {
 }
 
 void add_decode(CLI::App& group, Status& status) {
-  const Command command = add_command(group, "decode", "Tell what a tag string says");
+  const Command command = add_command(group, "decode", "Describe a tag string");
   command.app->allow_extras();
   command.app
       ->add_option("CODE", command.options->code,
@@ -80,7 +80,8 @@ void add_name(CLI::App& group, Status& status) {
 }  // namespace
 
 void add_grammar_commands(CLI::App& app, Status& status) {
-  CLI::App* group = app.add_subcommand("grammar", "Tell grammar in words, and write it as tags");
+  CLI::App* group =
+      app.add_subcommand("grammar", "Describe grammar in words, and write it as tags");
   group->require_subcommand(1);
   add_decode(*group, status);
   add_encode(*group, status);

@@ -67,7 +67,7 @@ class Bytes {
     std::copy(data_.get() + count, data_.get() + size_, data_.get());
     size_ -= count;
   }
-  // Room for this many bytes behind the end.
+  // Room for this many bytes after the end.
   char* room(std::size_t count) {
     if (capacity_ - size_ < count) {
       const std::size_t capacity = std::max(2 * capacity_, size_ + count);

@@ -44,7 +44,7 @@ class LineFilter {
   // The same for the piece of a long line that begins at a place. Returns the size of the piece.
   virtual std::size_t answer_piece(const Block& line, std::size_t at, std::string& out) = 0;
 
-  // Whether the text is UTF-8, in which a byte-order mark may come first.
+  // True when the text is UTF-8, in which a byte-order mark may come first.
   virtual bool reads_utf8() const { return true; }
 
   // Tells about one line without its line end, when JSON is wanted.

@@ -18,13 +18,13 @@ struct LookupOptions {
   bool first = false;              // the answer of the first dictionary that has one, only
   bool prefix = false;
   std::size_t next = 0;
-  std::string inflected;  // inflection table for words that are not found as they stand
+  std::string inflected;  // inflection table for words that are not found as they are
   bool raw = false;
   bool json = false;
   bool grammar = false;  // also what attribute blocks say, in words
 };
 
-// Splits "FILE... WORD..." in place: the first argument is a dictionary, and so are those behind it
+// Splits "FILE... WORD..." in place: the first argument is a dictionary, and so are those after it
 // up to the first without the name extension of a dictionary. All are words when dictionaries or a
 // set were named by option.
 void split_arguments(std::vector<std::string> arguments, LookupOptions& options);

@@ -22,7 +22,7 @@ void add_lookup_command(CLI::App& app, Status& status) {
       ->allow_extra_args(false);
   command
       ->add_option("ARGUMENT", stored->arguments,
-                   "FILE... WORD...: the first is a dictionary, and so are those behind it that "
+                   "FILE... WORD...: the first is a dictionary, and so are those after it that "
                    "end in .dic, .dis, .dit, .dih or .dig; - is the lines of standard input")
       ->type_name("FILE")
       ->required();
@@ -42,7 +42,7 @@ void add_lookup_command(CLI::App& app, Status& status) {
   command->add_flag("--first", options.first, "Only the first dictionary that has the word");
   CLI::Option* prefix =
       command->add_flag("--prefix", options.prefix, "All headwords that begin with the word");
-  command->add_option("--next", options.next, "Also the records behind it, so many")
+  command->add_option("--next", options.next, "Also show this many of the records that follow")
       ->type_name("N")
       ->check(whole_number());
   command
@@ -50,7 +50,8 @@ void add_lookup_command(CLI::App& app, Status& status) {
                    "Inflection table that leads from a Russian form to its headwords")
       ->type_name("FILE")
       ->excludes(prefix);
-  CLI::Option* raw = command->add_flag("--raw", options.raw, "Entries as they stand");
+  CLI::Option* raw =
+      command->add_flag("--raw", options.raw, "Show entries as the dictionary has them");
   command->add_flag("--json", options.json, "One JSON object per word")->excludes(raw);
   command->add_flag("--grammar", options.grammar, "Also the grammar of the words, in words")
       ->excludes(raw);

@@ -256,7 +256,7 @@ void Builder::Impl::sort() {
     }
     diagnostics.push_back(
         {Diagnostic::Severity::kNote, ErrorCode::kData, place_of(record.line),
-         "the same entry stands in " + at_place(place_of(same->line), "left out here")});
+         "the same entry is in " + at_place(place_of(same->line), "left out here")});
   }
   records = std::move(kept);
 }

@@ -171,7 +171,7 @@ void write_records(Output& out, CDicIndex& index, int depth, const std::vector<R
     }
     out.write(packed ? packed_block(records, group) : plain_block(records, group));
   }
-  // The end of the last line, and the empty line behind all lines.
+  // The end of the last line, and the empty line after all lines.
   if (!packed) out.write("\n\n");
 }
 

@@ -1,4 +1,4 @@
-// Which bodies move to the shared-text block, and where they stand there.
+// The bodies that move to the shared-text block, and their places in it.
 #include "lexicon/build/shared_text.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The shared-text block: bodies of entries that stand outside their records.
+// The shared-text block: bodies of entries that are outside their records.
 //
 // A record whose body is a hexadecimal number names a text of the block by its offset. Bodies go
 // there when several entries have the same one, when they do not fit a packed record, and when
@@ -42,7 +42,7 @@ struct SharedText {
   std::size_t moved = 0;  // number of records that refer to it
 };
 
-// Sets `stored` of every record; without `may_share` it is the entry as it stands. The block is
+// Sets `stored` of every record; without `may_share` it is the entry as it is. The block is
 // laid out in record order, so that equal input gives equal bytes.
 SharedText place_bodies(std::vector<Record>& records, bool packed, bool may_share);
 

@@ -2,7 +2,7 @@
 //
 // Words are in the order of the letter index: by the slots of their first letters, "no letter"
 // before all letters, then by bytes. Words that share all slots form a group; each group is a block
-// of the record area. In a letter table (depth 2 or 3) words that begin with a digit stand first
+// of the record area. In a letter table (depth 2 or 3) words that begin with a digit are first
 // and belong to the first group; in a key list (depth 5) the order is that of the keys.
 #ifndef KZ_LEXICON_SORT_ORDER_H
 #define KZ_LEXICON_SORT_ORDER_H
@@ -35,12 +35,12 @@ class SortOrder {
   // it can.
   std::optional<std::string> refusal(std::string_view word) const;
 
-  // Number of the word's group: groups stand in the order of their numbers. Words with a leading
+  // Number of the word's group: groups are in the order of their numbers. Words with a leading
   // digit have group 0 in a letter table; that is no group of its own there.
   std::uint32_t group(std::string_view word) const;
 
   // True when the letters of the index cannot tell the word from one that begins with the prefix.
-  // In a letter table all words with this prefix stand within such a run of words.
+  // In a letter table all words with this prefix are within such a run of words.
   bool same_beginning(std::string_view prefix, std::string_view word) const;
 
  private:

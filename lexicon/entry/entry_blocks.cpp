@@ -26,7 +26,7 @@ bool opens_group(Char c) {
   return c == '{' || c == '[' || c == '(';
 }
 
-// Behind the meaning that begins at `at`.
+// After the meaning that begins at `at`.
 std::size_t skip_meaning(std::string_view body, std::size_t at) {
   while (at < body.size() && body[at] != '/') {
     if (opens_group(body[at])) at = close_of(body, at);
@@ -50,7 +50,7 @@ std::size_t read_labels(std::string_view body, std::size_t at, MeaningBlock& blo
     if (number > 0) {
       block.label = body.substr(at, number);
       at += number;
-      // A label of several words ends with a colon or in front of a definition.
+      // A label of several words ends with a colon or before a definition.
       if (at < body.size() && body[at] == ' ') at = body.find_first_of(":{/", at);
       at = std::min(at, body.size());
     } else if (c == '{' || c == '[') {

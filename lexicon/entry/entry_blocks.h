@@ -1,4 +1,4 @@
-// Attribute blocks within an entry: behind the part code, in front of meanings, behind synonyms.
+// Attribute blocks within an entry: after the part code, before meanings, after synonyms.
 #ifndef KZ_LEXICON_ENTRY_BLOCKS_H
 #define KZ_LEXICON_ENTRY_BLOCKS_H
 
@@ -8,11 +8,11 @@
 
 namespace kz::lexicon {
 
-// The inside of the block directly behind the part code, in the bytes of the entry. The library
+// The inside of the block directly after the part code, in the bytes of the entry. The library
 // gives a block of the body for it when there is one.
 std::string head_block(std::string_view entry);
 
-// A block in front of the text of a meaning, with the number ("2.") or the part code that labels
+// A block before the text of a meaning, with the number ("2.") or the part code that labels
 // the meaning.
 struct MeaningBlock {
   std::string label;

@@ -22,7 +22,7 @@ void add(Side side, const std::string& synonym, const std::string& part_code,
   }
 }
 
-// Where the tags of the one side end at "|", or npos. Behind "%" a "|" is passed over like any
+// Where the tags of the one side end at "|", or npos. After "%" a "|" is passed over like any
 // other character that is no semantic letter.
 std::size_t find_bar(const std::string& part_code, const std::string& tags) {
   try {
@@ -69,7 +69,7 @@ std::vector<WordGrammar> entry_grammar(const EntryView& entry) {
 std::vector<WordGrammar> meaning_grammar(const EntryView& entry, const MeaningView& meaning) {
   std::vector<WordGrammar> words;
   const std::string& part = meaning.part_code.empty() ? entry.part_code : meaning.part_code;
-  // In front of a meaning, tags alone are those of the Russian word.
+  // Before a meaning, tags alone are those of the Russian word.
   const bool into_russian = entry.language.size() == 4 && entry.language.ends_with("RU");
   add_block(into_russian ? Side::kTarget : Side::kSource, part, meaning.block, words);
   for (const SynonymBlock& block : meaning.synonym_blocks) {

@@ -110,7 +110,7 @@ class Viewer {
     return to_utf8(decode(text, page));
   }
 
-  // Gives every block in front of a meaning to the next meaning with its label.
+  // Gives every block before a meaning to the next meaning with its label.
   void add_meaning_blocks(const std::string& entry, EntryView& view) const {
     const EntryLayout at = layout_of(entry);
     const std::string body = entry.substr(at.body, at.source - at.body);

@@ -58,7 +58,7 @@ Written write_tags(char code, Grammar grammar) {
 
   const std::string paradigm = take_wide_base(grammar);
   std::string extra;
-  // "&" and what belongs to it stand last: they would take letters and digits behind them along.
+  // "&" and what belongs to it are last: they would take letters and digits after them along.
   std::string marks;
   // The number of "&" comes first in canonical strings.
   grammar.gram.word[6] &= ~(31u << kSmallNumberShift);

@@ -101,7 +101,7 @@ inline constexpr std::array<std::uint32_t, 7> kNamedBits = [] {
   return bits;
 }();
 
-// Whether a bit has no name here.
+// True when a bit has no name here.
 constexpr bool is_flag(unsigned word, unsigned at) {
   return word < 7 && at < 32 && !(kNamedBits[word] >> at & 1);
 }

@@ -1,4 +1,4 @@
-// Tags by what the library makes of them.
+// Reads and writes tag strings with the library, and finds the tag of one flag.
 #include "lexicon/grammar/grammar_tags.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ bool same_words(const GRAMINFO& a, const GRAMINFO& b) {
   return std::equal(std::begin(a.word), std::end(a.word), std::begin(b.word));
 }
 
-// Adds a tag string to `grammar`; the position behind it.
+// Adds a tag string to `grammar`; the position after it.
 std::size_t add_tags(char code, const std::string& text, Grammar& grammar) {
   char last_code = code;
   const char* end = StrToGram(text.c_str(), &last_code, &grammar.gram, &grammar.semantics, code,

@@ -24,7 +24,7 @@ Grammar no_grammar();
 
 // Texts and part-of-speech codes are Windows-1251 in all that follows.
 
-// Reads a tag string into `no_grammar`. `unread`, if given, receives what stands behind its end.
+// Reads a tag string into `no_grammar`. `unread`, if given, receives what follows its end.
 Grammar read_tags(char code, std::string_view text, std::string* unread = nullptr);
 
 // The tag string that the library writes. Not all of it need read back.

@@ -79,7 +79,7 @@ Item take_item(std::u32string_view& line, int& number) {
   return Item::kText;
 }
 
-// Pronunciations stand in brackets.
+// Pronunciations are in brackets.
 std::u32string without_pronunciation(std::u32string_view text) {
   std::u32string result;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -140,7 +140,7 @@ class LabelledReader {
     in_part_ = false;
   }
 
-  // What stands before the first part without being a part, such as a label, holds for all parts.
+  // What is before the first part without being a part, such as a label, holds for all parts.
   void open_part() {
     if (!in_part_ && meanings_.empty()) {
       prefix_ = without_pronunciation(std::exchange(intro_, {}));
@@ -154,7 +154,7 @@ class LabelledReader {
   void append(std::u32string_view text) {
     std::u32string& target = meanings_.empty() ? intro_ : meanings_.back().text;
     const std::u32string piece = trimmed(text);
-    // Lines end at blanks and behind hyphens.
+    // Lines end at blanks and after hyphens.
     const bool hyphen = target.ends_with(U'-') && !target.ends_with(U" -");
     if (!target.empty() && !hyphen && piece != U";") target += U' ';
     target += piece;

@@ -10,10 +10,10 @@ using enum WordGroup;
 
 constexpr std::u32string_view kVowels = U"аеёиоуыэюя";
 constexpr std::u32string_view kHushingAndTs = U"жшчщц";
-constexpr std::u32string_view kNotBeforeY = U"гкхжшчщ";  // и is written behind these, never ы
+constexpr std::u32string_view kNotBeforeY = U"гкхжшчщ";  // и is written after these, never ы
 
 // The types are those of Zaliznyak's grammatical dictionary. An ending that the types 1, 3, 4 and 5
-// share stands under 1 in a table, one that 2, 6 and 7 share under 2: so these rows cover both.
+// share is under 1 in a table, one that 2, 6 and 7 share under 2: so these rows cover both.
 // Verbs from 17 on have a number of their own.
 constexpr auto kEndings = std::to_array<HeadwordEnding>({
     {kMasculine, 1, U""},

@@ -39,7 +39,7 @@ std::string text_path(const std::string& path) {
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 bool is_latin(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-// A number of 16 bits, perhaps with one character behind it.
+// A number of 16 bits, perhaps with one character after it.
 bool is_paradigm(std::string_view word) {
   std::uint16_t number = 0;
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
@@ -105,7 +105,7 @@ std::string encode_text(const SourceText& source) {
     }
     const auto [first, is_new] = seen.emplace(ending, line.line);
     if (!is_new) {
-      fail(ErrorCode::kData, "the ending stands in line " + std::to_string(first->second) + " too");
+      fail(ErrorCode::kData, "the ending is in line " + std::to_string(first->second) + " too");
     }
   }
   return bytes;

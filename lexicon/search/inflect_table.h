@@ -17,7 +17,7 @@ std::unique_ptr<CGrSrcWordFlex> load_table(const std::string& path);
 std::string fold_yo(std::string word);
 
 // The entries of the known endings of a word in lower case, Windows-1251, longest first. An ending
-// matches with yo as it stands or written as ye.
+// matches with yo as it is or written as ye.
 std::vector<const CGrSrcWordObj*> known_endings(CGrSrcWordFlex& table, const std::string& word);
 
 }  // namespace kz::lexicon

@@ -27,7 +27,7 @@ std::uint32_t noun_grammar(std::string_view entry, const EntryLayout& at) {
   return gram.word[1] & (GRAM_MASCULINE | GRAM_FEMININE | GRAM_NEUTER | GRAM_NO_SINGULAR);
 }
 
-// Whether a noun of this grammar may be declined as one of the group. Masculine nouns in а and я
+// True when a noun of this grammar may be declined as one of the group. Masculine nouns in а and я
 // (папа) are declined as feminine ones.
 bool is_declined(std::uint32_t grammar, WordGroup group, std::string_view headword) {
   static const std::string kFeminineEnds = encode(U"ая", CodePage::kRussian);
@@ -44,7 +44,7 @@ bool is_declined(std::uint32_t grammar, WordGroup group, std::string_view headwo
   }
 }
 
-// Whether the form may be one of this entry's word. A reference has no part of speech of its own;
+// True when the form may be one of this entry's word. A reference has no part of speech of its own;
 // nouns such as рабочий are declined like adjectives.
 bool belongs_to(const HeadwordCandidate& form, std::string_view entry) {
   const EntryLayout at = layout_of(entry);

@@ -155,7 +155,7 @@ bool BodyWriter::needs_braces(std::u32string_view word) const {
 
 std::u32string BodyWriter::protect(std::u32string_view text) const {
   std::u32string result;
-  bool joins = false;       // the last word is in braces, and nothing stands behind them
+  bool joins = false;       // the last word is in braces, and nothing is after them
   std::ptrdiff_t open = 0;  // parentheses outside braces
   const auto add = [&](std::u32string_view outside) {
     result += outside;
@@ -182,7 +182,7 @@ std::u32string BodyWriter::protect(std::u32string_view text) const {
       add(word.substr(0, core));
       result += U'{';
     }
-    // The first ')' behind a '(' ends the group, also within braces.
+    // The first ')' after a '(' ends the group, also within braces.
     if (open != 0) std::erase_if(inner, [](char32_t c) { return c == U'(' || c == U')'; });
     (result += inner) += U'}';
     add(word.substr(tail));

@@ -12,7 +12,7 @@ namespace {
 constexpr std::array<std::string_view, 10> kLanguages = {"EN",   "RU",   "DE",   "FR",   "ENRU",
                                                          "RUEN", "DERU", "RUDE", "FRRU", "RUFR"};
 
-// Characters behind the part code among which an attribute block may begin.
+// Characters after the part code among which an attribute block may begin.
 constexpr std::size_t kExtensionReach = 8;
 
 template <typename Char>

@@ -1,7 +1,7 @@
-// Where the sections of an entry stand, and which code page each of them is in.
+// The sections of an entry, and the code page of each of them.
 //
 // An entry is one line: head word, '*', part of speech with an optional attribute block, body,
-// source sections behind backslashes. The head word and the source sections are in the code page
+// source sections after backslashes. The head word and the source sections are in the code page
 // of the source language, the body in that of the target language.
 #ifndef KZ_LEXICON_ENTRY_LAYOUT_H
 #define KZ_LEXICON_ENTRY_LAYOUT_H

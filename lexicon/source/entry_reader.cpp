@@ -27,7 +27,7 @@ std::string one_character(char32_t c, CodePage page) {
 
 }  // namespace
 
-// The line with exactly one '*' behind its headword. Word lists are written without any, and
+// The line with exactly one '*' after its headword. Word lists are written without any, and
 // stored without one when packed.
 std::string EntryReader::star_checked(std::string_view utf8) const {
   std::string text(utf8);
@@ -68,7 +68,7 @@ void EntryReader::add_spelling(Record& record, const std::string& spelling) cons
   const std::size_t end = record.text.size();
   record.text += "\\\\" + spelling;
   if (layout_of(record.text).source_word != end) {
-    refuse("the spelling of the headword cannot be kept behind a final backslash");
+    refuse("the spelling of the headword cannot be kept after a final backslash");
   }
 }
 

@@ -125,7 +125,7 @@ TEST_F(InflectorTest, CompilesOnlyWhatReadersWouldUnderstand) {
                {"а | NF\n", "a record without attributes"},
                {"а NM 65536\n", "'65536' is no paradigm"},
                {"а NM 12ab\n", "'12ab' is no paradigm"},
-               {"* a\nа NM\nб NM\nа NF\n", "t.txt:4: the ending stands in line 2 too"},
+               {"* a\nа NM\nб NM\nа NF\n", "t.txt:4: the ending is in line 2 too"},
                {" а NM\n", "begins with a letter"},
                {"日 NM\n", "is not in Windows-1251", ErrorCode::kCodePage},
                {"\xFF NM\n", "not UTF-8"},

@@ -54,7 +54,7 @@ TEST_F(BuildTest, NamesTheLinesThatItLeavesOut) {
   const std::string arguments = "build s.txt -o o.dic --language ENRU";
   const Outcome built = place.kzdic(arguments);
   EXPECT_EQ(built.status, 4);
-  EXPECT_THAT(built.err, HasSubstr("s.txt:3: the same entry stands in s.txt:1"));
+  EXPECT_THAT(built.err, HasSubstr("s.txt:3: the same entry is in s.txt:1"));
   EXPECT_THAT(built.err, HasSubstr("s.txt:4: no '*'"));
   EXPECT_EQ(place.read("o.dic"), "what was here before");
   const Outcome skipped = place.kzdic(arguments + " --skip-bad");

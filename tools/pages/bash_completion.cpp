@@ -7,7 +7,7 @@
 namespace kzdic::pages {
 namespace {
 
-// "place" counts the arguments in front of the word. Bash has "=" as a word of its own.
+// "place" counts the arguments before the word. Bash has "=" as a word of its own.
 constexpr const char* kHead = R"(# Completion of kzdic for bash.
 _kzdic() {
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
@@ -48,7 +48,7 @@ std::string offer(const Option& option) {
   return "words='" + joined(option.words, " ") + "'";
 }
 
-// The commands that stand directly below one, or below the program.
+// The commands that are directly below one, or below the program.
 std::string below(const std::string& name, const std::vector<Command>& commands) {
   std::vector<std::string> words;
   const std::string prefix = name.empty() ? "" : name + " ";

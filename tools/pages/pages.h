@@ -8,7 +8,7 @@
 
 namespace kzdic::pages {
 
-// What stands behind an option or argument, as its type name tells.
+// What follows an option or argument, as its type name tells.
 enum class Value { kNone, kText, kFile, kDirectory, kWord };
 
 struct Option {
