@@ -71,9 +71,14 @@ kz_package(kzdic-data text "sample dictionaries for kzdic
 Small dictionaries between Russian and English, French and German, a Russian inflection table,
 the sources of both, and the description of the file formats."
   FIELDS ARCHITECTURE all ENHANCES kzdic)
+if(KZ_PYTHON)
+  # Its compiled part is of one version of Python.
+  get_directory_property(minor DIRECTORY python DEFINITION Python_VERSION_MINOR)
+  math(EXPR next "${minor} + 1")
+endif()
 kz_package(python3-kzlexicon python "dictionaries of a translation system in Python
 The Python module of libkzlexicon."
-  NEEDS ${lexicon} ${common} FIELDS DEPENDS python3)
+  NEEDS ${lexicon} ${common} FIELDS DEPENDS "python3 (>= 3.${minor}), python3 (<< 3.${next})")
 
 list(REMOVE_ITEM installed ${described})
 if(installed)
