@@ -7,6 +7,7 @@
 #include <istream>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "kzlexicon/error.h"
 #include "lexicon/text/code_page.h"
@@ -61,8 +62,12 @@ void read_lines(SourceText& source, std::istream& in, Marked marked) {
     if (marked == Marked::kDirective && line.text.starts_with("*:")) {
       take_directive(source, line);
     } else if (!line.text.empty() && line.text[0] != '*') {
-      // A copy has no room to spare.
-      source.lines.push_back(line.text.size() > kTooLong ? std::move(line) : line);
+      // A copy has no room to spare; a long line is not held twice.
+      if (line.text.size() > kTooLong) {
+        source.lines.push_back({line.file, line.line, std::exchange(line.text, {})});
+      } else {
+        source.lines.push_back(line);
+      }
     }
   }
 }

@@ -63,7 +63,7 @@ constexpr UpperHalf kKoi8R =
     u"ПЯРСТУЖВЬЫЗШЭЩЧЪ";
 
 // ISO 8859-5
-constexpr UpperHalf kIso8859_5 =
+constexpr UpperHalf kIso88595 =
     u"\x80\x81\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8D\x8E\x8F"
     u"\x90\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9D\x9E\x9F"
     u"\u00A0ЁЂЃЄЅІЇЈЉЊЋЌ\u00ADЎЏ"
@@ -101,7 +101,7 @@ constexpr PageTable make_table(const UpperHalf& upper) {
 // In the order of CodePage.
 constexpr std::array<PageTable, 7> kTables = {
     make_table(kWindows1251), make_table(kWindows1252), make_table(kCp866),
-    make_table(kCp850),       make_table(kKoi8R),       make_table(kIso8859_5),
+    make_table(kCp850),       make_table(kKoi8R),       make_table(kIso88595),
     make_table(kMacCyrillic),
 };
 
