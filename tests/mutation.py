@@ -34,7 +34,8 @@ FOLDERS = {
     "morphology": ("common/morphology", ["morphology", "morphology_core"]),
     "util": ("common/util", ["util", "util_core"]),
     "entry": ("common/entry", ["entry", "entry_core"]),
-    "dictionary": ("common/dictionary", ["dictionary", "dictionary_core"]),
+    # The queue is tested as a part of sets.
+    "dictionary": ("common/dictionary", ["dictionary", "dictionary_core", "dicset"]),
     "dicset": ("common/dicset", ["dicset", "dicset_core"]),
     "grammar": ("common/grammar", ["grammar", "grammar_core"]),
     "lexicon": ("lexicon", ["lexicon", "lexicon_core", "tools"]),
