@@ -95,7 +95,7 @@ TEST(AcceptHeader, RefusesDamagedSignaturesOtherVersionsAndSizes) {
     for (std::size_t i = 0; i < 48; ++i) {
       Bytes bytes = header;
       if (header[0] == 'Q' && i >= 44) break;  // the label
-      bytes[i] ^= i % 2 == 0 ? 0x20 : 1;
+      bytes[i] = static_cast<std::uint8_t>(bytes[i] ^ (i % 2 == 0 ? 0x20 : 1));
       EXPECT_EQ(accept(bytes).has_value(), i >= signature) << i;
     }
   }
