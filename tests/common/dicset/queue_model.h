@@ -11,7 +11,7 @@
 
 namespace kz::test {
 
-// A dictionary file as it stands on the disk.
+// A dictionary file as it is on the disk.
 struct ModelFile {
   std::string path;
   std::string language;

@@ -85,7 +85,7 @@ TEST(CharacterTests, WordsBeginWithLettersOrDigits) {
   }
 }
 
-// Writes an index over words that stand one after the other from position 1000 on, 10 bytes each.
+// Writes an index over words that are one after the other from position 1000 on, 10 bytes each.
 class Writer {
  public:
   Writer(const char* language, std::int16_t alphabet_size, std::int16_t depth) {
@@ -189,7 +189,7 @@ TEST(IndexImage, UnknownShapesAreRefused) {
 
 TEST(IndexImage, TheAccessLetterIsKept) {
   CDicIndex index('R');
-  // Behind the pointer to the virtual functions and the 16 bits of the access mode.
+  // After the pointer to the virtual functions and the 16 bits of the access mode.
   const char& letter = reinterpret_cast<const char*>(&index)[sizeof(void*) + 2];
   EXPECT_EQ(letter, 'R');
   index.SetAccessMode('W');

@@ -292,7 +292,7 @@ TEST(Lookup, BlocksEndAtTheNextGroupWhateverThePositions) {
 }
 
 TEST(Lookup, OverlappingBlocksTakeNoMoreMemoryThanAFewTimesTheFile) {
-  // Positions that fall from cell to cell: most blocks reach far behind their neighbours.
+  // Positions that fall from cell to cell: most blocks reach far after their neighbours.
   const Shape shape{"DERU", 'C', 3, 43};
   std::vector<std::int32_t> cells(cell_count(shape));
   for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -523,7 +523,7 @@ TEST_F(SmallDictionary, ModeOneReadsFromTheCurrentBlockWithoutTheIndex) {
   EXPECT_EQ(find("alpha"), "alpha*N1");
   EXPECT_EQ(next(), "beta*N2");
 
-  // A first record behind the end of the records is none.
+  // A first record after the end of the records is none.
   std::string bytes = dir_.read("small.dic");
   bytes.replace(123, 4, std::string("\0\0\1\0", 4));
   dictionary_.reset(DicOpen(dir_.write("small.dic", bytes).c_str(), 1));

@@ -156,7 +156,7 @@ class SlowDictionary {
     return true;
   }
 
-  // The first greater position behind the group; behind the row for the head of one, at the next
+  // The first greater position after the group; after the row for the head of one, at the next
   // pair when it is widened.
   template <typename At>
   std::int64_t end_of(At group, bool wide) const {

@@ -16,7 +16,7 @@ using Text = std::string;
 
 namespace {
 
-// A text on the heap with nothing behind its zero, so that the sanitizer sees every overrun.
+// A text on the heap with nothing after its zero, so that the sanitizer sees every overrun.
 class Exact {
  public:
   explicit Exact(std::string_view source) : text_(new char[source.size() + 1]) {

@@ -14,7 +14,7 @@
 
 namespace {
 
-// The fields of an array as they lie in memory, behind the virtual table of ZCObArray.
+// The fields of an array as they lie in memory, after the virtual table of ZCObArray.
 struct Record {
   void* data;
   std::int32_t size, allocated, grow_by;

@@ -12,7 +12,7 @@
 
 namespace {
 
-// One line of `data` from `position` on, which moves behind it; nothing at the end. With a limit,
+// One line of `data` from `position` on, which moves after it; nothing at the end. With a limit,
 // the byte read when so many characters are stored ends the line whatever it is.
 std::optional<std::string> next_line(const std::string& data, std::size_t& position,
                                      std::size_t limit = std::string::npos) {
@@ -52,7 +52,7 @@ std::optional<std::string> read_line(ZCFile& file) {
   return std::nullopt;
 }
 
-// Checks as well that nothing behind the line is touched; a line feed may be there.
+// Checks as well that nothing after the line is touched; a line feed may be there.
 std::optional<std::string> read_line(ZCFile& file, unsigned limit, std::size_t expected_size) {
   std::string buffer(limit + 3, '#');
   if (file.ReadString(buffer.data(), limit) == nullptr) return std::nullopt;

@@ -129,7 +129,7 @@ TEST_F(FileTest, PositionsReachToFourGigabytes) {
   EXPECT_EQ(none.Duplicate(), nullptr);
 }
 
-// The field behind the handle: whether the destructor closes the file.
+// The field after the handle: whether the destructor closes the file.
 bool closes_on_delete(const ZCFile& file) {
   std::int32_t value;
   std::memcpy(&value, reinterpret_cast<const char*>(&file) + sizeof(void*) + 4, sizeof value);
@@ -169,7 +169,7 @@ TEST_F(FileTest, DuplicateSharesThePositionAndOutlivesTheOriginal) {
   EXPECT_EQ(ZCFile().IsFileExist(name.c_str()), 1);
 }
 
-// Whether another handle could lock a byte for itself (F_WRLCK) or for reading (F_RDLCK).
+// True when another handle could lock a byte for itself (F_WRLCK) or for reading (F_RDLCK).
 bool can_lock(int handle, std::int64_t byte, short type) {
   struct flock lock {};
   lock.l_type = type;

@@ -17,7 +17,7 @@ inline std::string text(const ZCString& string) {
   return {static_cast<const char*>(string), static_cast<std::size_t>(string.GetLength())};
 }
 
-// The texts with a bar behind each.
+// The texts with a bar after each.
 inline std::string texts(std::initializer_list<ZCString> strings) {
   std::string result;
   for (const ZCString& string : strings) result += text(string) + '|';

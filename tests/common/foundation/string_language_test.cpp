@@ -90,7 +90,7 @@ TEST(StringLanguage, ClassesOfOneCharacterFollowTheTag) {
 }
 
 TEST(StringLanguage, OnlyCharactersOfTheStringHaveACaseAndAClass) {
-  // Letters lie in the buffer behind the string, and in the tag in front of it.
+  // Letters lie in the buffer after the string, and in the tag before it.
   ZCString string = tagged("abcd", 'q');
   char* const characters = string.GetBuffer(4);
   string.ReleaseBuffer(2);

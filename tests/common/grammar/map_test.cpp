@@ -46,7 +46,7 @@ TEST(RestOfTranslation, IsAppendedAboveLevelFour) {
     re_set_egram(word.record(), 'N', rest);
     EXPECT_STREQ(buffer, wanted);
   }
-  // It begins behind the grammar, with the backslash that is then stepped over.
+  // It begins after the grammar, with the backslash that is then stepped over.
   Word word('N');
   char buffer[8] = "";
   word.view().level() = 5;

@@ -129,7 +129,7 @@ inline const std::string capitals = encoded_1251("АБВГДЕЁЖЗИЙКЛМН
 inline const std::string case_letters = encoded_1251("ИРДВТП");
 inline const std::string case_capitals = encoded_1251("ВГДЕЖЗИЙКЛМНОПРСТ");
 inline const std::string replacing_cases = encoded_1251("ИРТ");  // of the verbs
-inline const std::string marked_cases = encoded_1251("РДВТП");   // behind "&"
+inline const std::string marked_cases = encoded_1251("РДВТП");   // after "&"
 
 // Semantic letters from bit 0 on.
 inline const std::string& semantic_letters() { return page().blocks.at("semantics")[0]; }

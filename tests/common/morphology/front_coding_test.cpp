@@ -14,7 +14,7 @@ namespace {
 
 using kz::operator""_1251;
 
-// The code of a word, with its zero byte; checks the result and that nothing behind it is written.
+// The code of a word, with its zero byte; checks the result and that nothing after it is written.
 std::string code(CGenSteno& coder, const std::string& word) {
   std::string out(word.size() + 2, '\x55');
   out += "guard";

@@ -19,7 +19,7 @@ namespace {
 
 using kz::operator""_1251;
 
-// What `call` writes to a buffer of `room` bytes that holds `initial`; nothing behind it may
+// What `call` writes to a buffer of `room` bytes that holds `initial`; nothing after it may
 // change.
 template <class Call>
 std::string written(std::size_t room, const std::string& initial, Call call) {
