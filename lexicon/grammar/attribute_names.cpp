@@ -7,7 +7,7 @@
 #include "kz/gram_codec.h"
 #include "kzlexicon/error.h"
 #include "kzlexicon/grammar.h"
-#include "lexicon/grammar/grammar_fields.h"
+#include "lexicon/grammar/fields.h"
 #include "lexicon/text/code_page.h"
 
 namespace kz::lexicon {

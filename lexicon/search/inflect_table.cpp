@@ -16,7 +16,7 @@
 #include "kzlexicon/error.h"
 #include "kzlexicon/output.h"
 #include "lexicon/search/inflector_table.h"
-#include "lexicon/source/source_text.h"
+#include "lexicon/source/text.h"
 #include "lexicon/text/code_page.h"
 
 namespace kz::lexicon {

@@ -10,7 +10,7 @@
 #include "kz/gram_codec.h"
 #include "kz/gram_record.h"
 #include "kzlexicon/entry.h"
-#include "lexicon/grammar/grammar_fields.h"
+#include "lexicon/grammar/fields.h"
 #include "lexicon/search/inflect_table.h"
 #include "lexicon/search/inflector_table.h"
 #include "lexicon/source/entry_layout.h"

@@ -6,8 +6,8 @@
 #include "kzlexicon/text.h"
 #include "lexicon/text/code_page.h"
 #include "lexicon/text/code_page_tables.h"
-#include "lexicon/text/text_encoding.h"
-#include "lexicon/text/text_filter.h"
+#include "lexicon/text/encoding.h"
+#include "lexicon/text/filter.h"
 
 namespace kz::lexicon {
 namespace {

@@ -11,8 +11,8 @@
 #include "kz/dic_error.h"
 #include "kz/replace_buffer.h"
 #include "kzlexicon/text.h"
+#include "lexicon/text/filter.h"
 #include "lexicon/text/russian_text.h"
-#include "lexicon/text/text_filter.h"
 
 namespace kz::lexicon {
 namespace {

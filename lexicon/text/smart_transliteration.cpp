@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "kz/translit.h"
+#include "lexicon/text/filter.h"
 #include "lexicon/text/russian_text.h"
-#include "lexicon/text/text_filter.h"
 #include "lexicon/text/transliteration.h"
 
 namespace kz::lexicon {

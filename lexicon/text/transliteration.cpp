@@ -9,7 +9,7 @@
 #include "kz/translit.h"
 #include "lexicon/text/code_page.h"
 #include "lexicon/text/code_page_tables.h"
-#include "lexicon/text/text_filter.h"
+#include "lexicon/text/filter.h"
 
 namespace kz::lexicon {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "lexicon/entry/entry_blocks.h"
+#include "lexicon/entry/blocks.h"
 #include "lexicon/source/entry_layout.h"
 #include "tests/lexicon/source.h"
 

@@ -1,5 +1,5 @@
 // Names of encodings; HTML references.
-#include "lexicon/text/text_encoding.h"
+#include "lexicon/text/encoding.h"
 
 #include <algorithm>
 #include <charconv>

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "kzlexicon/grammar.h"
-#include "lexicon/grammar/grammar_tags.h"
+#include "lexicon/grammar/tags.h"
 
 namespace kz::lexicon {
 

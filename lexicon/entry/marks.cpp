@@ -1,5 +1,5 @@
 // One walk over a body, group by group.
-#include "lexicon/entry/entry_marks.h"
+#include "lexicon/entry/marks.h"
 
 #include <algorithm>
 #include <utility>

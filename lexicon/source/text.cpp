@@ -1,5 +1,5 @@
 // Reader of dictionary source text.
-#include "lexicon/source/source_text.h"
+#include "lexicon/source/text.h"
 
 #include <cerrno>
 #include <cstring>

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "kz/entry.h"
-#include "lexicon/entry/entry_blocks.h"
-#include "lexicon/entry/entry_marks.h"
+#include "lexicon/entry/blocks.h"
+#include "lexicon/entry/marks.h"
 #include "lexicon/source/entry_layout.h"
 #include "lexicon/text/code_page.h"
 

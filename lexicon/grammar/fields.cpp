@@ -1,5 +1,5 @@
 // The table of names and places, read in both directions.
-#include "lexicon/grammar/grammar_fields.h"
+#include "lexicon/grammar/fields.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "kz/gram_codec.h"
-#include "lexicon/grammar/grammar_entries.h"
+#include "lexicon/grammar/entries.h"
 #include "lexicon/text/code_page.h"
 
 namespace kz::lexicon {

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "lexicon/grammar/grammar_fields.h"
+#include "lexicon/grammar/fields.h"
 
 #include "kzlexicon/error.h"
 #include "lexicon/text/code_page.h"

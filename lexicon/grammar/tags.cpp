@@ -1,5 +1,5 @@
 // Reads and writes tag strings with the library, and finds the tag of one flag.
-#include "lexicon/grammar/grammar_tags.h"
+#include "lexicon/grammar/tags.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,5 +1,5 @@
 // Pieces of long lines.
-#include "lexicon/text/text_filter.h"
+#include "lexicon/text/filter.h"
 
 namespace kz::lexicon {
 

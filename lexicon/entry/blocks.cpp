@@ -1,5 +1,5 @@
 // Blocks found by the brackets around them.
-#include "lexicon/entry/entry_blocks.h"
+#include "lexicon/entry/blocks.h"
 
 #include <algorithm>
 
