@@ -57,6 +57,9 @@ TEST_F(SetTest, DictionariesAreLookedForInThreePlaces) {
   EXPECT_EQ(DicArrayLoad(set_, nullptr, 1), -1);
   EXPECT_EQ(DicArrayLoad(nullptr, array, 1), -1);
 
+  DicArrayUnLoad(set_, nullptr);
+  DicArrayUnLoad(nullptr, array);
+  EXPECT_EQ(loaded(), (Names{"a.dic", "b.dic"}));
   DicArrayUnLoad(set_, array);
   EXPECT_EQ(loaded(), Names{});
   EXPECT_EQ(array->GetSize(), 0);

@@ -85,6 +85,9 @@ TEST(EntryText, TakesExtendedSynonymCodes) {
     EXPECT_EQ(GetExtSyn(source.get(), &word), c.rest);
     EXPECT_EQ(word.extended_code, c.code);
   }
+  KzWordRecord word = {};
+  EXPECT_EQ(GetExtSyn(nullptr, &word), nullptr);
+  EXPECT_STREQ(GetExtSyn("NAb", nullptr), "NAb");
 }
 
 TEST(EntryText, FindsAnAttributeBlockNearTheStart) {
