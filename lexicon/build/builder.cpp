@@ -116,7 +116,7 @@ std::size_t count_headwords(const std::vector<Record>& records) {
 struct Builder::Impl {
   // A line under way; records refer to it by its number.
   struct Line {
-    std::string text;
+    std::string text;  // of a record that may have to be read anew
     std::size_t file;  // index into `files`
     std::size_t number;
     std::size_t column;
@@ -183,11 +183,12 @@ void Builder::Impl::refuse(ErrorCode code, const std::string& message, std::size
 void Builder::Impl::add(std::string_view text, std::size_t file, std::size_t number,
                         std::size_t column) {
   check_unused();
-  lines.push_back({std::string(text), file, number, column});
+  lines.push_back({{}, file, number, column});
   const std::size_t line = lines.size() - 1;
   try {
     Record record = reader.read(text);
     record.line = line;
+    if (record.shortened) lines.back().text = text;
     records.push_back(std::move(record));
   } catch (const Error& error) {
     refuse(error.code(), error.message(), line);

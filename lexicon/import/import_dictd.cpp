@@ -140,7 +140,7 @@ class Import {
   ImportSummary& summary_;
 };
 
-// English beside Russian is assumed where the name of the database does not tell.
+// English beside Russian is assumed where the name of the database does not show them.
 std::string language_of_words(const DictdDatabase& database) {
   std::size_t russian_words = 0;
   std::size_t russian_texts = 0;

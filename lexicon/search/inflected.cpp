@@ -14,7 +14,7 @@
 namespace kz::lexicon {
 namespace {
 
-// Gender and number of a noun's entry, as bits of a GRAMINFO; 0 when it does not tell.
+// Gender and number of a noun's entry, as bits of a GRAMINFO; 0 when it names none.
 std::uint32_t noun_grammar(std::string_view entry, const EntryLayout& at) {
   const std::size_t block = entry.find('[', at.part);
   if (block >= at.body) return 0;

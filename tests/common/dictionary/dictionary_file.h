@@ -104,7 +104,7 @@ struct DictionaryFile {
   int packing = 0;
   bool fresh_groups = true;       // packed: front coding starts afresh in every group
   std::size_t shared_max = 63;    // packed: characters that a record takes over at most
-  std::string end_pair_before{};  // packed: the word before which the pair 0, 26 stands
+  std::string end_pair_before{};  // packed: the word that follows the pair 0, 26
   std::string shared{};           // texts, each with its zero
   std::vector<Record> records{};
 

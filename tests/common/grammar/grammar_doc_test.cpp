@@ -109,7 +109,7 @@ class Word {
   }
 
  private:
-  // Tags after the code that tells their meaning, or one bit as word/bit.
+  // Tags after the code that gives them their meaning, or one bit as word/bit.
   static void read_grammar(const std::string& text, std::uint8_t* place) {
     GRAMINFO gram{};
     if (text[1] == '/') gram.word[text[0] - '0'] = 1u << std::stoi(text.substr(2));
